@@ -1,7 +1,9 @@
 #include "base/decimal.h"
 
 #include <algorithm>
+#include <charconv>
 #include <limits>
+#include <system_error>
 
 namespace quillfern {
 namespace {
@@ -91,6 +93,15 @@ public:
     bool zero() const { return count_ == 0; }
     std::int64_t before_point() const { return before_point_; }
 
+    /// Whether nothing but zeros stands behind the scaled point.
+    bool whole() const
+    {
+        for (std::int64_t i = std::max<std::int64_t>(before_point_, 0); i < count_; ++i)
+            if (digit(i) != 0)
+                return false;
+        return true;
+    }
+
     /// Counted from the first digit that is not zero; zero beyond the last.
     unsigned digit(std::int64_t index) const
     {
@@ -110,16 +121,10 @@ private:
     std::int64_t before_point_ = 0;
 };
 
-} // namespace
-
-std::optional<std::int64_t> parse_scaled_decimal(std::string_view text, int scale)
+std::optional<std::int64_t> scaled_value(const Digits& digits, bool negative)
 {
     constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
     constexpr std::int64_t most_digits = 19;
-    const auto decimal = split(text);
-    if (!decimal)
-        return std::nullopt;
-    const Digits digits(*decimal, scale);
     if (digits.zero())
         return 0;
     if (digits.before_point() > most_digits)
@@ -129,9 +134,30 @@ std::optional<std::int64_t> parse_scaled_decimal(std::string_view text, int scal
         magnitude = magnitude * 10 + digits.digit(i);
     if (digits.before_point() >= 0 && digits.digit(digits.before_point()) >= 5)
         ++magnitude;
-    if (magnitude > largest + (decimal->negative ? 1 : 0))
+    if (magnitude > largest + (negative ? 1 : 0))
         return std::nullopt;
-    return static_cast<std::int64_t>(decimal->negative ? 0 - magnitude : magnitude);
+    return static_cast<std::int64_t>(negative ? 0 - magnitude : magnitude);
+}
+
+} // namespace
+
+std::optional<std::int64_t> parse_scaled_decimal(std::string_view text, int scale)
+{
+    const auto decimal = split(text);
+    return decimal ? scaled_value(Digits(*decimal, scale), decimal->negative) : std::nullopt;
+}
+
+std::optional<std::int64_t> parse_whole_decimal(std::string_view text)
+{
+    std::int64_t plain = 0;
+    const char* end = text.data() + text.size();
+    if (const auto [stop, error] = std::from_chars(text.data(), end, plain); error == std::errc() && stop == end)
+        return plain;
+    const auto decimal = split(text);
+    if (!decimal)
+        return std::nullopt;
+    const Digits digits(*decimal, 0);
+    return digits.whole() ? scaled_value(digits, decimal->negative) : std::nullopt;
 }
 
 bool is_decimal(std::string_view text)

@@ -14,6 +14,10 @@ namespace quillfern {
 /// for other texts and when the result does not fit into 64 bits. `scale` is 0 to 18.
 std::optional<std::int64_t> parse_scaled_decimal(std::string_view text, int scale);
 
+/// Reads an integral number in the same grammar, however it is spelled (5, 5.0, 50e-1). Absent for other texts, for
+/// values with a fraction, and beyond 64 bits.
+std::optional<std::int64_t> parse_whole_decimal(std::string_view text);
+
 /// Whether the text fits that grammar, whatever its size.
 bool is_decimal(std::string_view text);
 

@@ -1,0 +1,407 @@
+#pragma once
+
+#include "base/case_names.h"
+#include "base/fields.h"
+#include "base/raw_json.h"
+#include "base/read_state.h"
+#include "base/shared.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <variant>
+#include <vector>
+
+/// Reads records by their field lists from any source of values.
+///
+/// A source value (platform/json_reader.h has the one over JSON text) offers `state()`, `kind()`, `place()`,
+/// `text(out)`, `boolean(out)`, `integer(out)`, `number_text()`, `each_member(f(key, value))`,
+/// `each_element(f(value))`, `skip()`, which reads past a value and checks it, and `abandon()`, for one of which an
+/// unreadable part was forgiven. They return false when reading has failed; the failure is in the state. A member's key
+/// offers `is(name)`, `is_before(name)`, `text()` and `place()`.
+namespace quillfern {
+
+enum class ValueKind { null, boolean, number, string, array, object };
+
+constexpr std::string_view kind_name(ValueKind kind)
+{
+    constexpr std::array<std::string_view, 6> words{"null", "a boolean", "a number", "a text", "a list", "an object"};
+    return words[static_cast<std::size_t>(kind)];
+}
+
+/// A value that files hold as text. A specialisation has `static std::optional<T> parse(std::string_view)` and
+/// `static std::string problem(std::string_view)`, the message for a text that does not parse; it may have
+/// `static std::optional<T> parse_number(std::string_view)` when a JSON number is read as well, and
+/// `static constexpr std::string_view other_kind`, the message for a value of any other kind.
+template <class T>
+struct TextValue;
+
+template <class T>
+concept HasTextValue = requires(std::string_view text)
+{
+    TextValue<T>::parse(text);
+};
+
+template <>
+struct TextValue<Uuid> {
+    static std::optional<Uuid> parse(std::string_view text) { return Uuid::parse(text); }
+    static std::string problem(std::string_view text) { return "Not a UUID: " + std::string(text); }
+};
+
+template <>
+struct TextValue<Instant> {
+    static std::optional<Instant> parse(std::string_view text) { return Instant::parse(text); }
+    static std::string problem(std::string_view text) { return "Not an ISO 8601 date:" + std::string(text); }
+};
+
+/// Which keys of a record a read has found readable.
+template <class T>
+struct SeenKeys {
+    std::uint64_t bits = 0; ///< by place in the field list
+
+    bool has(std::string_view key) const { return bits >> fields<T>.index_of(key) & 1; }
+};
+
+template <class Value, class T>
+bool read(Value& value, T& out);
+
+namespace detail {
+
+template <class T>
+inline constexpr bool is_optional = false;
+template <class T>
+inline constexpr bool is_optional<std::optional<T>> = true;
+template <class T>
+inline constexpr bool is_vector = false;
+template <class T>
+inline constexpr bool is_vector<std::vector<T>> = true;
+template <class T>
+inline constexpr bool is_shared = false;
+template <class T>
+inline constexpr bool is_shared<Shared<T>> = true;
+template <class T>
+inline constexpr bool is_variant = false;
+template <class... T>
+inline constexpr bool is_variant<std::variant<T...>> = true;
+template <class T>
+inline constexpr bool is_map = false;
+template <class T>
+inline constexpr bool is_map<std::map<std::string, T>> = true;
+
+template <class Value>
+bool wrong_kind(Value& value, std::string_view expected)
+{
+    return value.state().fail(
+        value.place(), "Expected " + std::string(expected) + ", found " + std::string(kind_name(value.kind())));
+}
+
+template <class Value, class T>
+bool read_text_value(Value& value, T& out)
+{
+    if (value.kind() == ValueKind::string) {
+        std::string_view text;
+        if (!value.text(text))
+            return false;
+        if (const auto parsed = TextValue<T>::parse(text)) {
+            out = *parsed;
+            return true;
+        }
+        return value.state().fail(value.place(), TextValue<T>::problem(text));
+    }
+    if constexpr (requires { TextValue<T>::parse_number(std::string_view()); }) {
+        if (value.kind() == ValueKind::number) {
+            const std::string_view number = value.number_text();
+            if (const auto parsed = TextValue<T>::parse_number(number)) {
+                out = *parsed;
+                return true;
+            }
+            return value.state().fail(value.place(), TextValue<T>::problem(number));
+        }
+    }
+    if constexpr (requires { TextValue<T>::other_kind; })
+        return value.state().fail(value.place(), std::string(TextValue<T>::other_kind));
+    return wrong_kind(value, "a text");
+}
+
+template <class Value, NamedEnum E>
+bool read_case(Value& value, E& out)
+{
+    if (value.kind() != ValueKind::string)
+        return wrong_kind(value, "a text");
+    std::string_view text;
+    if (!value.text(text))
+        return false;
+    if (const std::optional<E> named = case_named<E>(text)) {
+        out = *named;
+        return true;
+    }
+    return value.state().fail(value.place(), "Unknown value: " + std::string(text));
+}
+
+/// An enumeration with payloads is an object with one key, the case's name; the value under it holds the payload.
+template <class Value, class... Case>
+bool read_variant(Value& value, std::variant<Case...>& out)
+{
+    using Variant = std::variant<Case...>;
+    if (value.kind() != ValueKind::object)
+        return wrong_kind(value, "an object");
+    std::size_t count = 0;
+    const bool ok = value.each_member([&](auto key, Value member) {
+        const std::string_view name = key.text();
+        if (++count > 1)
+            return member.skip();
+        bool known = false;
+        bool fine = true;
+        const auto try_case = [&]<std::size_t I>() {
+            if (known || case_names<Variant>[I] != name)
+                return;
+            known = true;
+            std::variant_alternative_t<I, Variant> payload{};
+            value.state().enter(case_names<Variant>[I]);
+            fine = read(member, payload);
+            if (fine) {
+                value.state().leave();
+                out = std::move(payload);
+            }
+        };
+        [&]<std::size_t... I>(std::index_sequence<I...>)
+        {
+            (try_case.template operator()<I>(), ...);
+        }
+        (std::index_sequence_for<Case...>());
+        if (!known)
+            return value.state().fail(value.place(), "Unknown value: " + std::string(name));
+        return fine;
+    });
+    if (ok && count != 1)
+        return value.state().fail(value.place(), "Invalid number of keys found, expected one.");
+    return ok;
+}
+
+template <class Value, class T>
+bool read_list(Value& value, std::vector<T>& out, bool keep_going)
+{
+    if (value.kind() != ValueKind::array)
+        return wrong_kind(value, "a list");
+    std::size_t index = 0;
+    return value.each_element([&](Value element) {
+        ReadState& state = value.state();
+        const std::size_t depth = state.depth();
+        state.enter(index++);
+        if (!read(element, out.emplace_back())) {
+            out.pop_back();
+            if (!keep_going || state.document_failed())
+                return false;
+            state.forgive("left out");
+            element.abandon();
+        }
+        state.leave_to(depth);
+        return true;
+    });
+}
+
+template <class Value, class T>
+bool read_map(Value& value, std::map<std::string, T>& out)
+{
+    if (value.kind() != ValueKind::object)
+        return wrong_kind(value, "an object");
+    return value.each_member([&](auto key, Value member) {
+        const auto [at, is_new] = out.try_emplace(std::string(key.text()));
+        ReadState& state = value.state();
+        const std::size_t depth = state.depth();
+        state.enter(at->first);
+        if (!is_new)
+            return state.fail(member.place(), "Duplicate key", Failing::document);
+        if (!read(member, at->second))
+            return false;
+        state.leave_to(depth);
+        return true;
+    });
+}
+
+/// Keys that a record does not know, remembered so that a duplicate is noticed.
+class OtherKeys {
+public:
+    bool insert(std::string_view key) { return keys_.emplace(key).second; }
+
+private:
+    std::set<std::string, std::less<>> keys_;
+};
+
+template <class T, std::size_t I>
+inline constexpr const auto& field_at = std::get<I>(fields<T>.all);
+
+template <class Value, class T, std::size_t I>
+bool read_field(Value& value, T& record, SeenKeys<T>& seen)
+{
+    constexpr auto& field = field_at<T, I>;
+    using Member = typename std::remove_cvref_t<decltype(field)>::MemberType;
+    Member& member = record.*field.member;
+    ReadState& state = value.state();
+    const std::size_t depth = state.depth();
+    state.enter(field.key);
+
+    bool readable;
+    if constexpr (field.policy == ReadPolicy::lenientEach && is_vector<Member>)
+        readable = read_list(value, member, true);
+    else
+        readable = read(value, member);
+    if (readable) {
+        seen.bits |= std::uint64_t(1) << I;
+        state.leave();
+        return true;
+    }
+    if constexpr (field.policy == ReadPolicy::identity)
+        return state.fail_document();
+    if constexpr (field.policy == ReadPolicy::lenient || field.policy == ReadPolicy::lenientEach) {
+        if (state.document_failed())
+            return false;
+        member = std::move(T{}.*field.member);
+        state.forgive("the default stands in for it");
+        value.abandon();
+        state.leave_to(depth);
+        return true;
+    }
+    return false;
+}
+
+/// Files are written with sorted keys, so the next key in that order is tried before all are searched.
+template <class T, class Key>
+std::size_t find_field(Key& key, std::size_t& next_sorted)
+{
+    constexpr auto& list = fields<T>;
+    for (; next_sorted < list.size; ++next_sorted) {
+        const std::size_t place = list.sorted[next_sorted];
+        if (key.is(list.keys[place])) {
+            ++next_sorted;
+            return place;
+        }
+        if (key.is_before(list.keys[place]))
+            break;
+    }
+    const std::size_t place = list.index_of(key.text());
+    return place;
+}
+
+template <class Value, class T, std::size_t I>
+bool require_field(Value& value, std::uint64_t met)
+{
+    constexpr auto& field = field_at<T, I>;
+    if constexpr (field.policy == ReadPolicy::required || field.policy == ReadPolicy::identity) {
+        if (!(met >> I & 1)) {
+            value.state().enter(field.key);
+            return value.state().fail(
+                value.place(), "Missing", field.policy == ReadPolicy::identity ? Failing::document : Failing::value);
+        }
+    }
+    return true;
+}
+
+template <class Value, Record T>
+bool read_record(Value& value, T& out)
+{
+    if (value.kind() != ValueKind::object)
+        return wrong_kind(value, "an object");
+    constexpr std::size_t size = fields<T>.size;
+    SeenKeys<T> seen;
+    std::uint64_t met = 0;
+    std::size_t next_sorted = 0;
+    std::optional<OtherKeys> others;
+    const bool walked = value.each_member([&](auto key, auto member) {
+        const std::size_t place = find_field<T>(key, next_sorted);
+        ReadState& state = value.state();
+        if (place == size) {
+            if (!others)
+                others.emplace();
+            if (!others->insert(key.text()))
+                return state.fail(key.place(), "Duplicate key: " + std::string(key.text()), Failing::document);
+            return member.skip();
+        }
+        if (met >> place & 1)
+            return state.fail(key.place(), "Duplicate key: " + std::string(key.text()), Failing::document);
+        met |= std::uint64_t(1) << place;
+        return [&]<std::size_t... I>(std::index_sequence<I...>)
+        {
+            using Member = decltype(member);
+            if constexpr (sizeof...(I) == 0)
+                return true;
+            else {
+                static constexpr std::array<bool (*)(Member&, T&, SeenKeys<T>&), sizeof...(I)> readers{
+                    &read_field<Member, T, I>...};
+                return readers[place](member, out, seen);
+            }
+        }
+        (std::make_index_sequence<size>());
+    });
+    if (!walked)
+        return false;
+    const bool complete = [&]<std::size_t... I>(std::index_sequence<I...>)
+    {
+        return (require_field<Value, T, I>(value, met) && ...);
+    }
+    (std::make_index_sequence<size>());
+    if (!complete)
+        return false;
+    if constexpr (requires { after_read(out, seen, value.state()); })
+        after_read(out, seen, value.state());
+    return true;
+}
+
+} // namespace detail
+
+/// Reads one value into `out`, which holds its type's default before. A record may have a function
+/// `after_read(T&, const SeenKeys<T>&, ReadState&)` beside it, which fills in what depends on the keys seen.
+template <class Value, class T>
+bool read(Value& value, T& out)
+{
+    if constexpr (Record<T>) {
+        return detail::read_record(value, out);
+    } else if constexpr (HasTextValue<T>) {
+        return detail::read_text_value(value, out);
+    } else if constexpr (NamedEnum<T>) {
+        return detail::read_case(value, out);
+    } else if constexpr (detail::is_optional<T>) {
+        if (value.kind() == ValueKind::null) {
+            out.reset();
+            return value.skip();
+        }
+        return read(value, out.emplace());
+    } else if constexpr (detail::is_shared<T>) {
+        std::remove_cvref_t<decltype(*out)> plain{};
+        if (!read(value, plain))
+            return false;
+        out = T(std::move(plain));
+        return true;
+    } else if constexpr (detail::is_vector<T>) {
+        return detail::read_list(value, out, false);
+    } else if constexpr (detail::is_variant<T>) {
+        return detail::read_variant(value, out);
+    } else if constexpr (detail::is_map<T>) {
+        return detail::read_map(value, out);
+    } else if constexpr (std::is_same_v<T, std::string>) {
+        std::string_view text;
+        if (value.kind() != ValueKind::string)
+            return detail::wrong_kind(value, "a text");
+        if (!value.text(text))
+            return false;
+        out.assign(text);
+        return true;
+    } else if constexpr (std::is_same_v<T, RawJson>) {
+        return value.kind() == ValueKind::object ? value.raw(out.text) : detail::wrong_kind(value, "an object");
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return value.kind() == ValueKind::boolean ? value.boolean(out) : detail::wrong_kind(value, "a boolean");
+    } else {
+        static_assert(std::is_same_v<T, std::int64_t>, "no reader for this type");
+        return value.kind() == ValueKind::number ? value.integer(out) : detail::wrong_kind(value, "a number");
+    }
+}
+
+} // namespace quillfern

@@ -1,0 +1,58 @@
+#include "grants/grant_file_json.h"
+
+#include "grants/record_fields.h"
+#include "grants/value_text.h"
+#include "platform/json_reader.h"
+#include "platform/json_writer.h"
+
+#include <algorithm>
+
+namespace quillfern::grants {
+
+/// A file from before versions were written.
+constexpr std::int64_t unnumbered_format = 1;
+
+void after_read(Grant& grant, const SeenKeys<Grant>& seen, ReadState& state)
+{
+    if (!seen.has("id"))
+        grant.id = state.fresh.uuid();
+    if (!seen.has("created"))
+        grant.created = state.fresh.now;
+    if (!seen.has("modified"))
+        grant.modified = state.fresh.now;
+}
+
+void after_read(OrgProfile& profile, const SeenKeys<OrgProfile>&, ReadState&)
+{
+    profile.fiscalYearStartMonth = std::clamp<std::int64_t>(profile.fiscalYearStartMonth, 1, 12);
+}
+
+void after_read(GrantFile& file, const SeenKeys<GrantFile>& seen, ReadState&)
+{
+    if (!seen.has("formatVersion"))
+        file.formatVersion = unnumbered_format;
+}
+
+Result<GrantFileRead, GrantFileError> read_grant_file(std::string json, const FreshValues& fresh)
+{
+    ReadState state(fresh);
+    GrantFile file;
+    if (!platform::read_json(json, state, file))
+        return fail(GrantFileError(state.error()));
+    if (file.formatVersion > GrantFile::current_format)
+        return fail(GrantFileError(NewerFormat{file.formatVersion}));
+    return GrantFileRead{std::move(file), std::move(state.notes)};
+}
+
+std::string write_grant_file(const GrantFile& file)
+{
+    constexpr std::size_t usual_grant_bytes = 5000;
+    GrantFile current = file;
+    current.formatVersion = GrantFile::current_format;
+    platform::JsonWriter json;
+    json.reserve(file.grants.size() * usual_grant_bytes + 4096);
+    write(json, current);
+    return std::move(json).finish();
+}
+
+} // namespace quillfern::grants

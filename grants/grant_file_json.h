@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/read_state.h"
+#include "base/result.h"
+#include "grants/grant_file.h"
+
+#include <string>
+
+namespace quillfern::grants {
+
+/// A file whose format version is newer than this program's; nothing of it is used.
+struct NewerFormat {
+    std::int64_t formatVersion = 0;
+};
+
+struct GrantFileRead {
+    GrantFile file;
+    ReadNotes notes; ///< what was replaced by a default or left out
+};
+
+using GrantFileError = std::variant<ReadError, NewerFormat>;
+
+/// Decodes the text of "Quillfern.json". Nothing is opened by half: a malformed text, a value of a wrong type, a bad
+/// date, amount or case anywhere refuses the whole; only the profile is tolerant key by key. `json` may be changed
+/// (room for the parser's padding).
+Result<GrantFileRead, GrantFileError> read_grant_file(std::string json, const FreshValues& fresh);
+
+/// The text of "Quillfern.json" in the current format: pretty-printed, keys sorted, the same bytes for equal files.
+std::string write_grant_file(const GrantFile& file);
+
+} // namespace quillfern::grants

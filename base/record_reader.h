@@ -321,9 +321,14 @@ bool read_record(Value& value, T& out)
         if (place == size) {
             if (!others)
                 others.emplace();
-            if (!others->insert(key.text()))
-                return state.fail(key.place(), "Duplicate key: " + std::string(key.text()), Failing::document);
-            return member.skip();
+            const std::string_view name = key.text();
+            if (!others->insert(name))
+                return state.fail(key.place(), "Duplicate key: " + std::string(name), Failing::document);
+            state.enter(name);
+            if (!member.skip())
+                return false;
+            state.leave();
+            return true;
         }
         if (met >> place & 1)
             return state.fail(key.place(), "Duplicate key: " + std::string(key.text()), Failing::document);

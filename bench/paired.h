@@ -26,15 +26,18 @@ inline double median(std::vector<double> values)
     return *middle;
 }
 
-/// Use with `->UseManualTime()`; the reported time is the subject's.
-template <class Subject, class Peer>
-void run_paired(benchmark::State& state, Subject&& subject, Peer&& peer)
+/// Use with `->UseManualTime()`; the reported time is the subject's. `prepare` runs before each pair, outside the
+/// clock.
+template <class Subject, class Peer, class Prepare>
+void run_paired(benchmark::State& state, Subject&& subject, Peer&& peer, Prepare&& prepare)
 {
     std::vector<double> ratios;
     std::vector<double> peer_seconds;
+    prepare();
     subject();
     peer();
     for (auto _ : state) {
+        prepare();
         const bool subject_first = ratios.size() % 2 == 0;
         const double early_peer = subject_first ? 0 : seconds_of(peer);
         const double own = seconds_of(subject);
@@ -45,6 +48,12 @@ void run_paired(benchmark::State& state, Subject&& subject, Peer&& peer)
     }
     state.counters["ratio"] = median(ratios);
     state.counters["peer_ms"] = median(peer_seconds) * 1e3;
+}
+
+template <class Subject, class Peer>
+void run_paired(benchmark::State& state, Subject&& subject, Peer&& peer)
+{
+    run_paired(state, subject, peer, [] {});
 }
 
 } // namespace quillfern::bench

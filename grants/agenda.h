@@ -14,7 +14,7 @@ enum class Bucket { overdue, thisWeek, next30, next90, later };
 
 /// One dated thing to do for a grant.
 struct AgendaItem {
-    std::string id; ///< stable for the same thing of the same grant across runs
+    std::string id; ///< kind-grant or kind-grant-record: the same for the same thing in every run, a key of reminders
     AgendaKind kind = AgendaKind::loi;
     Day day;
     Uuid grantID;
@@ -39,6 +39,9 @@ std::vector<AgendaItem> agenda(const GrantFile& file);
 
 /// As agenda(), without what is done.
 std::vector<AgendaItem> open_agenda(const GrantFile& file);
+
+/// Whether `a` comes before `b` in agenda order; merges the agendas of several files.
+bool comes_before(const AgendaItem& a, const AgendaItem& b);
 
 /// Today and the seven days after it are `thisWeek`, deliberately eight days in all.
 Bucket bucket(const Day& day, const Day& today);

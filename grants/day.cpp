@@ -58,6 +58,31 @@ std::optional<std::int64_t> parse_number(std::string_view text)
     return number;
 }
 
+constexpr std::size_t iso_length = 10;
+
+int digit_at(std::string_view text, std::size_t index)
+{
+    const int digit = text[index] - '0';
+    return digit >= 0 && digit <= 9 ? digit : -100'000;
+}
+
+/// The spelling of nearly every day in a file, YYYY-MM-DD, without the search for pieces.
+std::optional<Day> parse_iso(std::string_view text)
+{
+    if (text.size() != iso_length || text[4] != '-' || text[7] != '-')
+        return std::nullopt;
+    const Day day{digit_at(text, 0) * 1000 + digit_at(text, 1) * 100 + digit_at(text, 2) * 10 + digit_at(text, 3),
+        digit_at(text, 5) * 10 + digit_at(text, 6), digit_at(text, 8) * 10 + digit_at(text, 9)};
+    return day.year >= 0 && day.month >= 0 && day.day >= 0 ? std::optional(day) : std::nullopt;
+}
+
+bool is_day_of_files(const Day& day)
+{
+    constexpr std::int64_t last_year = 9999;
+    return day.year >= 1 && day.year <= last_year && day.month >= 1 && day.month <= months_per_year && day.day >= 1
+        && day.day <= days_in_month(day.year, day.month);
+}
+
 /// The pieces between hyphens, empty ones dropped; absent unless they are three.
 std::optional<std::array<std::string_view, 3>> split_at_hyphens(std::string_view text)
 {
@@ -75,6 +100,23 @@ std::optional<std::array<std::string_view, 3>> split_at_hyphens(std::string_view
     return count == pieces.size() ? std::optional(pieces) : std::nullopt;
 }
 
+std::optional<Day> parse_pieces(std::string_view text)
+{
+    const auto pieces = split_at_hyphens(text);
+    if (!pieces)
+        return std::nullopt;
+    const auto year = parse_number((*pieces)[0]);
+    const auto month = parse_number((*pieces)[1]);
+    const auto day = parse_number((*pieces)[2]);
+    return year && month && day ? std::optional(Day{*year, *month, *day}) : std::nullopt;
+}
+
+void put_digits(char* out, std::int64_t value, int width)
+{
+    for (int i = width - 1; i >= 0; --i, value /= 10)
+        out[i] = static_cast<char>('0' + value % 10);
+}
+
 } // namespace
 
 Day Day::normalised(std::int64_t year, std::int64_t month, std::int64_t day)
@@ -87,17 +129,10 @@ Day Day::normalised(std::int64_t year, std::int64_t month, std::int64_t day)
 
 std::optional<Day> Day::parse(std::string_view text)
 {
-    constexpr std::int64_t last_year = 9999;
-    const auto pieces = split_at_hyphens(trimmed(text));
-    if (!pieces)
-        return std::nullopt;
-    const auto year = parse_number((*pieces)[0]);
-    const auto month = parse_number((*pieces)[1]);
-    const auto day = parse_number((*pieces)[2]);
-    if (!year || !month || !day || *year < 1 || *year > last_year || *month < 1 || *month > months_per_year || *day < 1
-        || *day > days_in_month(*year, *month))
-        return std::nullopt;
-    return Day{*year, *month, *day};
+    auto day = parse_iso(text);
+    if (!day)
+        day = parse_pieces(trimmed(text));
+    return day && is_day_of_files(*day) ? day : std::nullopt;
 }
 
 Day Day::from_days_since_epoch(std::int64_t days)
@@ -131,10 +166,18 @@ int Day::weekday() const
 
 std::string Day::text() const
 {
-    std::array<char, 64> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%04lld-%02lld-%02lld", static_cast<long long>(year),
-        static_cast<long long>(month), static_cast<long long>(day));
-    return {text.data(), static_cast<std::size_t>(length)};
+    constexpr std::int64_t last_short_year = 9999;
+    if (year < 0 || year > last_short_year) {
+        std::array<char, 32> wide{};
+        const int length = std::snprintf(wide.data(), wide.size(), "%04lld-%02d-%02d", static_cast<long long>(year),
+            static_cast<int>(month), static_cast<int>(day));
+        return {wide.data(), static_cast<std::size_t>(length)};
+    }
+    std::string text = "0000-00-00";
+    put_digits(&text[0], year, 4);
+    put_digits(&text[5], month, 2);
+    put_digits(&text[8], day, 2);
+    return text;
 }
 
 std::int64_t days_between(const Day& a, const Day& b)

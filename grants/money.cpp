@@ -65,12 +65,18 @@ Money Money::percentage(std::int64_t percent) const
 
 std::string Money::text() const
 {
-    const auto magnitude = cents < 0 ? 0 - static_cast<std::uint64_t>(cents) : static_cast<std::uint64_t>(cents);
-    std::array<char, 32> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%s%llu.%02llu", cents < 0 ? "-" : "",
-        static_cast<unsigned long long>(magnitude / cents_per_unit),
-        static_cast<unsigned long long>(magnitude % cents_per_unit));
-    return {text.data(), static_cast<std::size_t>(length)};
+    auto rest = cents < 0 ? 0 - static_cast<std::uint64_t>(cents) : static_cast<std::uint64_t>(cents);
+    std::array<char, 24> text{};
+    char* const end = text.data() + text.size();
+    char* start = end;
+    for (int digits = 0; rest > 0 || digits <= cent_digits; ++digits, rest /= 10) {
+        if (digits == cent_digits)
+            *--start = '.';
+        *--start = static_cast<char>('0' + rest % 10);
+    }
+    if (cents < 0)
+        *--start = '-';
+    return {start, end};
 }
 
 Money& Money::operator+=(Money other)

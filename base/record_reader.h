@@ -305,11 +305,20 @@ bool require_field(Value& value, std::uint64_t met)
     return true;
 }
 
+template <Record T>
+consteval bool has_identity()
+{
+    return std::apply([](const auto&... field) { return ((field.policy == ReadPolicy::identity) || ...); },
+        fields<T>.all);
+}
+
 template <class Value, Record T>
 bool read_record(Value& value, T& out)
 {
-    if (value.kind() != ValueKind::object)
-        return wrong_kind(value, "an object");
+    if (value.kind() != ValueKind::object) {
+        wrong_kind(value, "an object");
+        return has_identity<T>() ? value.state().fail_document() : false;
+    }
     constexpr std::size_t size = fields<T>.size;
     SeenKeys<T> seen;
     std::uint64_t met = 0;

@@ -78,9 +78,8 @@ std::optional<Day> parse_iso(std::string_view text)
 
 bool is_day_of_files(const Day& day)
 {
-    constexpr std::int64_t last_year = 9999;
-    return day.year >= 1 && day.year <= last_year && day.month >= 1 && day.month <= months_per_year && day.day >= 1
-        && day.day <= days_in_month(day.year, day.month);
+    return day.year >= first_day_of_files.year && day.year <= last_day_of_files.year && day.month >= 1
+        && day.month <= months_per_year && day.day >= 1 && day.day <= days_in_month(day.year, day.month);
 }
 
 /// The pieces between hyphens, empty ones dropped; absent unless they are three.
@@ -166,8 +165,7 @@ int Day::weekday() const
 
 std::string Day::text() const
 {
-    constexpr std::int64_t last_short_year = 9999;
-    if (year < 0 || year > last_short_year) {
+    if (year < 0 || year > last_day_of_files.year) {
         std::array<char, 32> wide{};
         const int length = std::snprintf(wide.data(), wide.size(), "%04lld-%02d-%02d", static_cast<long long>(year),
             static_cast<int>(month), static_cast<int>(day));

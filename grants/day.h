@@ -54,6 +54,16 @@ struct Day {
     friend auto operator<=>(const Day&, const Day&) = default;
 };
 
+/// The days that a file can hold.
+inline constexpr Day first_day_of_files = {1, 1, 1};
+inline constexpr Day last_day_of_files = {9999, 12, 31};
+
+/// The day itself, or the first or last one that a file can hold.
+constexpr Day within_files(const Day& day)
+{
+    return day < first_day_of_files ? first_day_of_files : day > last_day_of_files ? last_day_of_files : day;
+}
+
 /// Positive when `b` is later.
 std::int64_t days_between(const Day& a, const Day& b);
 

@@ -7,9 +7,6 @@
 namespace quillfern::grants {
 namespace {
 
-constexpr Day first_day_of_files = {1, 1, 1};
-constexpr Day last_day_of_files = {9999, 12, 31};
-
 /// Absent for a plan without interim reports.
 std::optional<std::int64_t> months_between_reports(ReportFrequency frequency)
 {
@@ -43,11 +40,6 @@ std::string interim_title(ReportFrequency frequency, std::size_t number, Lang la
     std::string title(starts[static_cast<std::size_t>(frequency)](lang));
     title += std::to_string(number);
     return lang == Lang::en ? title + " report" : title;
-}
-
-Day due_day(const Day& end, std::int64_t days)
-{
-    return std::clamp(end.plus_days(days), first_day_of_files, last_day_of_files);
 }
 
 ReportPeriod period(const Day& start, const Day& end, const FreshId& fresh_id)
@@ -107,12 +99,12 @@ std::vector<ReportPeriod> generate_reports(
             break;
         ReportPeriod& interim = reports.emplace_back(period(start, next.plus_days(-1), fresh_id));
         interim.title = interim_title(plan.frequency, reports.size(), lang);
-        interim.due = due_day(*interim.periodEnd, plan.dueDays);
+        interim.due = within_files(interim.periodEnd->plus_days(plan.dueDays));
         start = next;
     }
     ReportPeriod& last = reports.emplace_back(period(start, *grant.awardEnd, fresh_id));
     last.title = final_title(lang);
-    last.due = due_day(*grant.awardEnd, plan.finalDueDays);
+    last.due = within_files(grant.awardEnd->plus_days(plan.finalDueDays));
     last.isFinal = true;
     return reports;
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "grants/grant_file.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+
+/// Linden Ferry Community Pantry: an invented food pantry with seventeen grants, to look around in and to test with.
+///
+/// It holds every stage and every state of a report, late and future payments, dated and undated milestones, and files.
+/// Its story moves with `today`, so that three things are always overdue and five due in the next seven days; on
+/// September 10, 2026 its fiscal year begins in July, on other days in the month that keeps this year's thirteen grants
+/// in one fiscal year. The same day and language give the same bytes.
+namespace quillfern::grants {
+
+struct SampleContent {
+    GrantFile file;
+    std::map<std::string, std::string> attachments; ///< stored name to bytes
+    std::string_view logo; ///< PNG
+};
+
+SampleContent sample_content(const Day& today, Lang lang);
+
+} // namespace quillfern::grants

@@ -2,7 +2,6 @@
 
 #include "base/case_names.h"
 #include "base/fields.h"
-#include "base/raw_json.h"
 #include "base/read_state.h"
 #include "base/shared.h"
 
@@ -308,8 +307,8 @@ bool require_field(Value& value, std::uint64_t met)
 template <Record T>
 consteval bool has_identity()
 {
-    return std::apply([](const auto&... field) { return ((field.policy == ReadPolicy::identity) || ...); },
-        fields<T>.all);
+    return std::apply(
+        [](const auto&... field) { return ((field.policy == ReadPolicy::identity) || ...); }, fields<T>.all);
 }
 
 template <class Value, Record T>
@@ -408,8 +407,6 @@ bool read(Value& value, T& out)
             return false;
         out.assign(text);
         return true;
-    } else if constexpr (std::is_same_v<T, RawJson>) {
-        return value.kind() == ValueKind::object ? value.raw(out.text) : detail::wrong_kind(value, "an object");
     } else if constexpr (std::is_same_v<T, bool>) {
         return value.kind() == ValueKind::boolean ? value.boolean(out) : detail::wrong_kind(value, "a boolean");
     } else {

@@ -3,7 +3,6 @@
 #include "base/case_names.h"
 #include "base/fields.h"
 #include "base/instant.h"
-#include "base/raw_json.h"
 #include "base/shared.h"
 #include "base/uuid.h"
 
@@ -65,10 +64,6 @@ template <class T>
 bool is_absent(const std::optional<T>& value)
 {
     return !value.has_value();
-}
-inline bool is_absent(const Shared<RawJson>& value)
-{
-    return value->text.empty();
 }
 
 template <class Sink, class T>
@@ -188,12 +183,6 @@ void write_value(Sink& sink, const std::optional<T>& value)
 {
     write(sink, *value);
 }
-template <class Sink>
-void write_value(Sink& sink, const RawJson& value)
-{
-    sink.raw(value.text);
-}
-
 template <class Sink, class T>
 void write(Sink& sink, const T& value)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/raw_json.h"
 #include "base/shared.h"
+#include "board/board.h"
 #include "grants/profile.h"
 #include "grants/records.h"
 
@@ -25,7 +25,7 @@ struct GrantFile {
     std::vector<Shared<Grant>> grants;
     FileSettings settings;
     Shared<std::map<std::string, Day>> calendarAdded; ///< which deadline is in the user's calendar, for which day
-    Shared<RawJson> board; ///< the board's JSON object, carried through as it stands
+    Shared<board::Board> board; ///< an empty board when the organization keeps none here
     std::vector<Shared<Person>> people;
 
     friend bool operator==(const GrantFile&, const GrantFile&) = default;

@@ -1,5 +1,6 @@
 #include "grants/grant_file_json.h"
 
+#include "board/record_fields.h"
 #include "grants/record_fields.h"
 #include "grants/value_text.h"
 #include "platform/json_reader.h"
@@ -27,11 +28,39 @@ void after_read(OrgProfile& profile, const SeenKeys<OrgProfile>&, ReadState&)
     profile.fiscalYearStartMonth = std::clamp<std::int64_t>(profile.fiscalYearStartMonth, 1, 12);
 }
 
-void after_read(GrantFile& file, const SeenKeys<GrantFile>& seen, ReadState&)
+void after_read(GrantFile& file, const SeenKeys<GrantFile>& seen, ReadState& state)
 {
     if (!seen.has("formatVersion"))
         file.formatVersion = unnumbered_format;
+    if (!seen.has("board"))
+        file.board = file.board.with([&](board::Board& empty) {
+            empty.id = state.fresh.uuid();
+            empty.created = state.fresh.now;
+        });
 }
+
+namespace {
+
+/// A board of a newer format may hold keys that this program would drop on saving: it refuses the file as the file's
+/// own newer format does.
+std::optional<NewerFormat> newer_format(const GrantFile& file)
+{
+    if (file.formatVersion > GrantFile::current_format)
+        return NewerFormat{file.formatVersion};
+    if (file.board->formatVersion > board::Board::current_format)
+        return NewerFormat{file.board->formatVersion};
+    return std::nullopt;
+}
+
+GrantFile in_current_format(GrantFile file)
+{
+    file.formatVersion = GrantFile::current_format;
+    if (file.board->formatVersion != board::Board::current_format)
+        file.board = file.board.with([](board::Board& older) { older.formatVersion = board::Board::current_format; });
+    return file;
+}
+
+} // namespace
 
 Result<GrantFileRead, GrantFileError> read_grant_file(std::string json, const FreshValues& fresh)
 {
@@ -39,19 +68,17 @@ Result<GrantFileRead, GrantFileError> read_grant_file(std::string json, const Fr
     GrantFile file;
     if (!platform::read_json(json, state, file))
         return fail(GrantFileError(state.error()));
-    if (file.formatVersion > GrantFile::current_format)
-        return fail(GrantFileError(NewerFormat{file.formatVersion}));
+    if (const auto newer = newer_format(file))
+        return fail(GrantFileError(*newer));
     return GrantFileRead{std::move(file), std::move(state.notes)};
 }
 
 std::string write_grant_file(const GrantFile& file)
 {
     constexpr std::size_t usual_grant_bytes = 5000;
-    GrantFile current = file;
-    current.formatVersion = GrantFile::current_format;
     platform::JsonWriter json;
     json.reserve(file.grants.size() * usual_grant_bytes + 4096);
-    write(json, current);
+    write(json, in_current_format(file));
     return std::move(json).finish();
 }
 

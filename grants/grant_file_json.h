@@ -8,7 +8,7 @@
 
 namespace quillfern::grants {
 
-/// A file whose format version is newer than this program's; nothing of it is used.
+/// A file, or the board in it, whose format version is newer than this program's; nothing of it is used.
 struct NewerFormat {
     std::int64_t formatVersion = 0;
 };
@@ -21,7 +21,7 @@ struct GrantFileRead {
 using GrantFileError = std::variant<ReadError, NewerFormat>;
 
 /// Decodes the text of "Quillfern.json". Nothing is opened by half: a malformed text, a value of a wrong type, a bad
-/// date, amount or case anywhere refuses the whole; only the profile is tolerant key by key. `json` may be changed
+/// date, amount or case anywhere refuses the whole; only the profile and the board are tolerant key by key. `json` may be changed
 /// (room for the parser's padding).
 Result<GrantFileRead, GrantFileError> read_grant_file(std::string json, const FreshValues& fresh);
 

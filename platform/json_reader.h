@@ -203,18 +203,6 @@ public:
     /// Reads past the value, whatever it is, and checks it.
     bool skip();
 
-    /// The value's own text, checked.
-    bool raw(std::string& out)
-    {
-        if (!skip())
-            return false;
-        const char* end = nullptr;
-        if (const auto error = value_.current_location().get(end))
-            return cursor_->malformed(error);
-        out = detail::without_trailing_blanks({place(), static_cast<std::size_t>(end - place())});
-        return true;
-    }
-
     void abandon() { cursor_->unwalked = true; }
 
     template <class F>

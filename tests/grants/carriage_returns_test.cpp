@@ -15,9 +15,14 @@ TEST(CarriageReturns, AreFoundInEveryTextOfAFile)
     GrantFile file;
     file.org.mission = "\r";
     file.grants = {Grant(), grant};
-    file.board = RawJson{R"({"meetings": [{"place": "x\ry", "level": {"deep": "\\r"}}]})"};
+    board::Meeting meeting;
+    meeting.location = "x\ry";
+    meeting.notes = "\\r";
+    board::Board board;
+    board.meetings.push_back(meeting);
+    file.board = board;
     EXPECT_THAT(texts_with_carriage_returns(file),
-        testing::ElementsAre("board.meetings[0].place: the text holds a carriage return",
+        testing::ElementsAre("board.meetings[0].location: the text holds a carriage return",
             "grants[1].notes: the text holds a carriage return",
             "grants[1].payments[0].note: the text holds a carriage return",
             "org.mission: the text holds a carriage return"));

@@ -42,9 +42,39 @@ Grant read_grant(const std::string& members)
 
 constexpr std::string_view whole_file = R"({
   "board": {
+    "actions": [],
+    "address": "",
+    "bodyName": "",
+    "created": "2025-03-07T14:03:22.000Z",
+    "defaultLengthMinutes": 90,
+    "defaultLocation": "",
+    "defaultStartMinutes": 1140,
+    "formatVersion": 1,
+    "id": "00000000-0000-4000-8000-000000000009",
+    "meetings": [],
     "members": [
-      {"id": "unchanged  as it stands"}
-    ]
+      {
+        "email": "",
+        "id": "00000000-0000-4000-8000-00000000000A",
+        "inOffice": true,
+        "name": "Ruth Abernathy",
+        "phone": "",
+        "role": "president",
+        "title": "",
+        "votes": true
+      }
+    ],
+    "motionPrefix": "",
+    "name": "",
+    "orgType": "nonprofit",
+    "quorum": {
+      "majority": {}
+    },
+    "sample": false,
+    "voteRule": {
+      "basis": "votesCast",
+      "threshold": "majority"
+    }
   },
   "calendarAdded": {
     "a \"quoted\" key": "2026-01-02"
@@ -198,6 +228,10 @@ TEST(GrantFileJson, WritesWhatItReadByteForByte)
 TEST(GrantFileJson, AnAlmostEmptyFileOpensWithTheDefaults)
 {
     GrantFile expected;
+    expected.board = expected.board.with([](board::Board& empty) {
+        empty.id = fresh_id;
+        empty.created = fresh.now;
+    });
     EXPECT_EQ(read(R"({"formatVersion": 2})").file, expected);
     EXPECT_EQ(read("\xEF\xBB\xBF {\"formatVersion\":2.0} \n").file, expected);
     expected.formatVersion = 1;
@@ -219,6 +253,7 @@ TEST(GrantFileJson, NewerFormatsAreRefusedAndOlderOnesRead)
     EXPECT_EQ(refusal(R"({"formatVersion": 3})"), "newer format");
     EXPECT_EQ(refusal(R"({"formatVersion": 9223372036854775807})"), "newer format");
     EXPECT_EQ(refusal(R"({"formatVersion": -1})"), "accepted");
+    EXPECT_EQ(refusal(R"({"board": {"formatVersion": 2}})"), "newer format");
 }
 
 TEST(GrantFileJson, AmountsAreExactDecimalsInTextAndInNumbers)
@@ -265,6 +300,7 @@ TEST(GrantFileJson, RefusalsNameWhatAndWhere)
         {R"({"x": {"deep": [{"a": 1, "a": 2}]}})", "x.deep[0]: Duplicate key: a"},
         {R"({"org": []})", "org: Expected an object, found a list"},
         {R"({"board": 3})", "board: Expected an object, found a number"},
+        {R"({"board": {"members": [{"name": "Ruth"}]}})", "board.members[0].id: Missing"},
         {"[]", "Expected an object"},
         {"", "Malformed JSON"},
         {"{", "Malformed JSON"},

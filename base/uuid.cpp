@@ -64,6 +64,11 @@ void write_uuid(const Uuid& uuid, char* out)
     write(uuid, out, "0123456789ABCDEF");
 }
 
+void write_lower_uuid(const Uuid& uuid, char* out)
+{
+    write(uuid, out, "0123456789abcdef");
+}
+
 std::string Uuid::text() const
 {
     std::string text(text_length, '\0');
@@ -74,7 +79,7 @@ std::string Uuid::text() const
 std::string Uuid::lower_text() const
 {
     std::string text(text_length, '\0');
-    write(*this, text.data(), "0123456789abcdef");
+    write_lower_uuid(*this, text.data());
     return text;
 }
 

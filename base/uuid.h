@@ -30,6 +30,9 @@ struct Uuid {
 /// Writes the 36 characters of the upper-case text to `out`, without a terminator.
 void write_uuid(const Uuid& uuid, char* out);
 
+/// The same in lower case.
+void write_lower_uuid(const Uuid& uuid, char* out);
+
 } // namespace quillfern
 
 template <>

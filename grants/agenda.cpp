@@ -104,12 +104,12 @@ std::optional<Money> amount(const Grant& grant, AgendaKind kind, std::size_t rec
 std::string item_id(AgendaKind kind, const Uuid& grant, const std::optional<Uuid>& record)
 {
     constexpr std::size_t uuid_length = 36;
-    std::string id;
-    id.reserve(case_name(kind).size() + 2 * (uuid_length + 1));
-    id += case_name(kind);
-    (id += '-') += grant.lower_text();
+    const std::string_view name = case_name(kind);
+    std::string id(name);
+    id.resize(name.size() + (record ? 2 : 1) * (1 + uuid_length), '-');
+    write_lower_uuid(grant, &id[name.size() + 1]);
     if (record)
-        (id += '-') += record->lower_text();
+        write_lower_uuid(*record, &id[name.size() + uuid_length + 2]);
     return id;
 }
 

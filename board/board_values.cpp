@@ -1,6 +1,7 @@
 #include "board/board_values.h"
 
 #include "base/trim.h"
+#include "board/labels.h"
 #include "board/vote_math.h"
 #include "platform/locale_text.h"
 
@@ -48,6 +49,12 @@ std::string body_display_name(const Board& board, Lang lang)
 std::string display_name(const Member& member, Lang lang)
 {
     return trimmed(member.name).empty() ? std::string(unnamed_member(lang)) : member.name;
+}
+
+std::string display_title(const Meeting& meeting, Lang lang)
+{
+    const std::string_view title = trimmed(meeting.title);
+    return std::string(title.empty() ? label(meeting.kind, lang) : title);
 }
 
 std::vector<Member> current_members(const Board& board)

@@ -15,6 +15,9 @@ std::string display_name(const Board& board, Lang lang);
 std::string body_display_name(const Board& board, Lang lang);
 std::string display_name(const Member& member, Lang lang);
 
+/// The meeting's own title, or its kind.
+std::string display_title(const Meeting& meeting, Lang lang);
+
 /// The members in office by role, within a role by name; numbers in names compare as numbers.
 std::vector<Member> current_members(const Board& board);
 

@@ -1,6 +1,5 @@
 #include "base/trim.h"
 
-#include <algorithm>
 #include <array>
 
 namespace quillfern {
@@ -35,18 +34,20 @@ std::size_t space_at_start(std::string_view text)
 {
     if (ascii_white_space.find(text.front()) != std::string_view::npos)
         return 1;
-    const auto space = std::find_if(wide_white_space.begin(), wide_white_space.end(),
-        [&](std::string_view candidate) { return text.starts_with(candidate); });
-    return space == wide_white_space.end() ? 0 : space->size();
+    for (const std::string_view space : wide_white_space)
+        if (text.starts_with(space))
+            return space.size();
+    return 0;
 }
 
 std::size_t space_at_end(std::string_view text)
 {
     if (ascii_white_space.find(text.back()) != std::string_view::npos)
         return 1;
-    const auto space = std::find_if(wide_white_space.begin(), wide_white_space.end(),
-        [&](std::string_view candidate) { return text.ends_with(candidate); });
-    return space == wide_white_space.end() ? 0 : space->size();
+    for (const std::string_view space : wide_white_space)
+        if (text.ends_with(space))
+            return space.size();
+    return 0;
 }
 
 } // namespace

@@ -8,10 +8,10 @@ namespace quillfern::grants {
 
 /// One dated thing of a grant before anything is copied for it.
 struct AgendaEntry {
-    AgendaKind kind;
+    AgendaKind kind = AgendaKind::loi;
     Day day;
-    bool done;
-    std::size_t index; ///< among the grant's reports, payments or milestones; 0 for the grant's own dates
+    bool done = false;
+    std::size_t index = 0; ///< among the grant's reports, payments or milestones; 0 for the grant's own dates
 };
 
 /// A declined or withdrawn request owes no report and awaits no money.

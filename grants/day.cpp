@@ -165,17 +165,18 @@ int Day::weekday() const
 
 std::string Day::text() const
 {
+    std::array<char, 32> text{};
     if (year < 0 || year > last_day_of_files.year) {
-        std::array<char, 32> wide{};
-        const int length = std::snprintf(wide.data(), wide.size(), "%04lld-%02d-%02d", static_cast<long long>(year),
+        const int length = std::snprintf(text.data(), text.size(), "%04lld-%02d-%02d", static_cast<long long>(year),
             static_cast<int>(month), static_cast<int>(day));
-        return {wide.data(), static_cast<std::size_t>(length)};
+        return {text.data(), static_cast<std::size_t>(length)};
     }
-    std::string text = "0000-00-00";
-    put_digits(&text[0], year, 4);
+    put_digits(text.data(), year, 4);
+    text[4] = '-';
     put_digits(&text[5], month, 2);
+    text[7] = '-';
     put_digits(&text[8], day, 2);
-    return text;
+    return {text.data(), 10};
 }
 
 std::int64_t days_between(const Day& a, const Day& b)

@@ -66,11 +66,12 @@ std::string assembled(const std::vector<std::string>& objects)
 std::string simple_pdf(std::string_view title, const std::vector<std::string>& lines)
 {
     const std::string content = page_content(title, lines);
+    const std::string page = "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 612 792] "
+                             "/Resources << /Font << /F1 4 0 R >> >> /Contents 5 0 R >>";
     return assembled({
         "<< /Type /Catalog /Pages 2 0 R >>",
         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
-        "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 612 792] /Resources << /Font << /F1 4 0 R >> >> /Contents 5 0 R "
-        ">>",
+        page,
         "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /Encoding /WinAnsiEncoding >>",
         "<< /Length " + std::to_string(content.size()) + " >>\nstream\n" + content + "\nendstream",
     });

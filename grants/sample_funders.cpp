@@ -77,7 +77,7 @@ constexpr std::array funders = {
 /// Ostrander's cycle names the day of its letter, which moves with the story.
 std::string cycle(const SampleFrame& frame, SampleFunder funder)
 {
-    const std::string words = frame.text(funders[static_cast<std::size_t>(funder)].cycle);
+    std::string words = frame.text(funders[static_cast<std::size_t>(funder)].cycle);
     if (funder != SampleFunder::ostrander)
         return words;
     const std::string day =

@@ -72,7 +72,7 @@ SampleGrant& SampleGrant::milestone(std::string title, DateRule rule, bool done)
 }
 
 SampleGrant& SampleGrant::pdf(
-    std::string name, AttachmentKind kind, Instant added, const std::vector<std::string>& lines)
+    const std::string& name, AttachmentKind kind, Instant added, const std::vector<std::string>& lines)
 {
     std::string bytes = simple_pdf(name, lines);
     return file(name + ".pdf", kind, added, std::move(bytes));

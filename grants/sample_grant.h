@@ -40,7 +40,8 @@ public:
     SampleGrant& payment(const Day& expected, std::int64_t units, std::string note = {});
     SampleGrant& received(const Day& day); ///< the payment named last
     SampleGrant& milestone(std::string title, DateRule rule, bool done = false);
-    SampleGrant& pdf(std::string name, AttachmentKind kind, Instant added, const std::vector<std::string>& lines);
+    SampleGrant& pdf(
+        const std::string& name, AttachmentKind kind, Instant added, const std::vector<std::string>& lines);
     SampleGrant& file(std::string name, AttachmentKind kind, Instant added, std::string bytes);
 
 private:

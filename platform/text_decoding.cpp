@@ -40,11 +40,11 @@ std::string to_utf8(const char* encoding, std::string_view bytes)
     text.reserve(bytes.size() + bytes.size() / 4);
     std::array<char, 16384> chunk{};
     UErrorCode status = U_BUFFER_OVERFLOW_ERROR;
-    for (bool first = true; status == U_BUFFER_OVERFLOW_ERROR; first = false) {
+    for (UBool first = 1; status == U_BUFFER_OVERFLOW_ERROR; first = 0) {
         status = U_ZERO_ERROR;
         char* target = chunk.data();
         ucnv_convertEx(to.get(), from.get(), &target, chunk.data() + chunk.size(), &source, bytes.data() + bytes.size(),
-            pivot.data(), &pivot_source, &pivot_target, pivot.data() + pivot.size(), first, true, &status);
+            pivot.data(), &pivot_source, &pivot_target, pivot.data() + pivot.size(), first, 1, &status);
         text.append(chunk.data(), target);
     }
     return text;

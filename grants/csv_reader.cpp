@@ -1,13 +1,11 @@
 #include "grants/csv_reader.h"
 
+#include "base/byte_search.h"
 #include "base/trim.h"
 #include "platform/graphemes.h"
 #include "platform/text_decoding.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
-#include <cstring>
 #include <utility>
 
 namespace quillfern::grants {
@@ -23,41 +21,6 @@ bool is_plain(std::string_view text, std::size_t position)
 {
     return text[position] == '\t' || !platform::is_joined(text, position);
 }
-
-/// Finds the next of three characters, eight bytes at a time.
-class ThreeCharacters {
-public:
-    ThreeCharacters(char a, char b, char c) : a_(a), b_(b), c_(c) { }
-
-    /// The text's size when there is none.
-    std::size_t find(std::string_view text, std::size_t from) const
-    {
-        if constexpr (std::endian::native == std::endian::little) {
-            for (; from + sizeof(std::uint64_t) <= text.size(); from += sizeof(std::uint64_t)) {
-                std::uint64_t word;
-                std::memcpy(&word, text.data() + from, sizeof word);
-                if (const std::uint64_t hits = zeros(word ^ all(a_)) | zeros(word ^ all(b_)) | zeros(word ^ all(c_)))
-                    return from + static_cast<std::size_t>(std::countr_zero(hits)) / 8;
-            }
-        }
-        while (from < text.size() && text[from] != a_ && text[from] != b_ && text[from] != c_)
-            ++from;
-        return from;
-    }
-
-private:
-    static constexpr std::uint64_t low_bits = 0x0101010101010101;
-
-    static std::uint64_t all(char character) { return low_bits * static_cast<unsigned char>(character); }
-
-    /// The top bit of each zero byte. Bytes above the lowest zero byte may be marked too, so only the lowest mark
-    /// counts. (Hacker's Delight, 6-1.)
-    static std::uint64_t zeros(std::uint64_t word) { return (word - low_bits) & ~word & (low_bits << 7); }
-
-    char a_;
-    char b_;
-    char c_;
-};
 
 class Parser {
 public:
@@ -88,12 +51,14 @@ private:
     RowEnd read_row(CSVRow& row)
     {
         while (true) {
-            std::string& cell = row.emplace_back();
-            if (is_quote(at_) && !read_quoted(cell))
-                return RowEnd::unclosedQuote;
-            const std::size_t end = cell_end(at_);
-            cell.append(text_, at_, end - at_);
-            at_ = end;
+            if (is_quote(at_)) {
+                std::string& cell = row.emplace_back();
+                if (!read_quoted(cell))
+                    return RowEnd::unclosedQuote;
+                cell += take_unquoted();
+            } else {
+                row.emplace_back(take_unquoted());
+            }
             if (at_ == text_.size())
                 return RowEnd::text;
             if (text_[at_++] == delimiter_)
@@ -129,12 +94,14 @@ private:
         }
     }
 
-    std::size_t cell_end(std::size_t from) const
+    std::string_view take_unquoted()
     {
-        std::size_t end = cell_ends_.find(text_, from);
+        std::size_t end = cell_ends_.find(text_, at_);
         while (end < text_.size() && text_[end] == delimiter_ && !is_plain(text_, end))
             end = cell_ends_.find(text_, end + 1);
-        return end;
+        const std::string_view taken = text_.substr(at_, end - at_);
+        at_ = end;
+        return taken;
     }
 
     std::size_t line_of(std::size_t position) const
@@ -149,7 +116,7 @@ private:
     std::string_view text_;
     char delimiter_;
     bool keep_blank_rows_;
-    ThreeCharacters cell_ends_;
+    ByteSearch<3> cell_ends_;
     std::size_t at_ = 0;
     ParsedCSV result_;
 };

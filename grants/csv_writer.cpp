@@ -1,9 +1,9 @@
 #include "grants/csv_writer.h"
 
+#include "base/byte_search.h"
 #include "base/decimal.h"
 #include "platform/graphemes.h"
 
-#include <array>
 #include <cstddef>
 
 namespace quillfern::grants {
@@ -12,12 +12,7 @@ namespace {
 
 constexpr std::string_view row_end = "\r\n";
 
-constexpr auto may_need_quotes = [] {
-    std::array<bool, 256> table{};
-    for (const char character : {',', ';', '"', '\n', '\r'})
-        table[static_cast<unsigned char>(character)] = true;
-    return table;
-}();
+constexpr ByteSearch may_need_quotes{',', ';', '"', '\n', '\r'};
 
 bool starts_like_a_formula(std::string_view text)
 {
@@ -45,9 +40,7 @@ bool needs_apostrophe(std::string_view text)
 
 bool needs_quotes(std::string_view text)
 {
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (!may_need_quotes[static_cast<unsigned char>(text[at])])
-            continue;
+    for (std::size_t at = may_need_quotes.find(text, 0); at < text.size(); at = may_need_quotes.find(text, at + 1)) {
         if (text[at] == '\n')
             return true;
         if (text[at] == '\r') {
@@ -89,17 +82,6 @@ void append_cell(std::string& out, std::string_view text)
     }
 }
 
-void append_line(std::string& out, const CSVRow& cells)
-{
-    bool first = true;
-    for (const std::string& cell : cells) {
-        if (!first)
-            out += ',';
-        first = false;
-        append_cell(out, cell);
-    }
-}
-
 std::size_t likely_size(const std::vector<CSVRow>& rows)
 {
     std::size_t size = 0;
@@ -122,24 +104,48 @@ std::string CSVWriter::cell(std::string_view text)
 
 std::string CSVWriter::line(const CSVRow& cells)
 {
-    std::string out;
-    append_line(out, cells);
-    return out;
+    CSVBuilder line;
+    for (const std::string& cell : cells)
+        line.add_cell(cell);
+    return std::move(line).finish();
 }
 
 std::string CSVWriter::document(const std::vector<CSVRow>& rows)
 {
-    std::string out;
-    out.reserve(likely_size(rows));
-    for (const CSVRow& row : rows)
-        append_row(out, row);
-    return out;
+    CSVBuilder document;
+    document.reserve(likely_size(rows));
+    for (const CSVRow& row : rows) {
+        for (const std::string& cell : row)
+            document.add_cell(cell);
+        document.end_row();
+    }
+    return std::move(document).finish();
 }
 
-void CSVWriter::append_row(std::string& out, const CSVRow& cells)
+void CSVBuilder::begin_cell()
 {
-    append_line(out, cells);
-    out += row_end;
+    if (!row_is_empty_)
+        text_ += ',';
+    row_is_empty_ = false;
+}
+
+void CSVBuilder::add_cell(std::string_view text)
+{
+    begin_cell();
+    if (!text.empty())
+        append_cell(text_, text);
+}
+
+void CSVBuilder::add_plain_cell(std::string_view text)
+{
+    begin_cell();
+    text_ += text;
+}
+
+void CSVBuilder::end_row()
+{
+    text_ += row_end;
+    row_is_empty_ = true;
 }
 
 } // namespace quillfern::grants

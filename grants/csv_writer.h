@@ -2,8 +2,10 @@
 
 #include "grants/csv_reader.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillfern::grants {
@@ -22,9 +24,24 @@ struct CSVWriter {
     static std::string cell(std::string_view text);
     static std::string line(const CSVRow& cells);
     static std::string document(const std::vector<CSVRow>& rows);
+};
 
-    /// Appends one row with its CR LF.
-    static void append_row(std::string& out, const CSVRow& cells);
+/// Makes such a document cell by cell, for a writer that has the cells' texts but no rows of them.
+class CSVBuilder {
+public:
+    void reserve(std::size_t bytes) { text_.reserve(bytes); }
+
+    void add_cell(std::string_view text);
+    void add_plain_cell(std::string_view text); ///< digits with points or hyphens among them: nothing to guard or quote
+    void end_row();
+
+    std::string finish() && { return std::move(text_); }
+
+private:
+    void begin_cell();
+
+    std::string text_;
+    bool row_is_empty_ = true;
 };
 
 } // namespace quillfern::grants

@@ -4,8 +4,11 @@
 #include "grants/labels.h"
 #include "grants/template_samples.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace quillfern::grants {
 
@@ -47,92 +50,91 @@ std::string probability_text(const Grant& grant)
     return grant.probability ? std::to_string(*grant.probability) + "%" : std::string();
 }
 
-CSVRow cells(const Grant& grant, std::string_view funder, Lang lang)
+/// Calls use(...) with one cell: with its text, or with the day that it holds.
+template <class Use>
+void with_cell(ImportField field, const Grant& grant, std::string_view funder, Lang lang, Use&& use)
 {
-    const std::optional<Day> report_due = next_report_due(grant);
-    CSVRow row;
-    row.reserve(all_import_fields.size());
-    for (const ImportField field : all_import_fields) {
-        switch (field) {
-        case ImportField::title:
-            row.push_back(grant.title);
-            break;
-        case ImportField::funder:
-            row.emplace_back(funder);
-            break;
-        case ImportField::stage:
-            row.emplace_back(label(grant.stage, lang));
-            break;
-        case ImportField::ask:
-            row.push_back(ask_text(grant));
-            break;
-        case ImportField::awarded:
-            row.push_back(text_of(grant.awarded));
-            break;
-        case ImportField::probability:
-            row.push_back(probability_text(grant));
-            break;
-        case ImportField::loiDue:
-            row.push_back(text_of(grant.loiDue));
-            break;
-        case ImportField::applicationDue:
-            row.push_back(text_of(grant.applicationDue));
-            break;
-        case ImportField::submittedOn:
-            row.push_back(text_of(grant.submittedOn));
-            break;
-        case ImportField::decisionExpected:
-            row.push_back(text_of(grant.decisionExpected));
-            break;
-        case ImportField::decidedOn:
-            row.push_back(text_of(grant.decidedOn));
-            break;
-        case ImportField::awardStart:
-            row.push_back(text_of(grant.awardStart));
-            break;
-        case ImportField::awardEnd:
-            row.push_back(text_of(grant.awardEnd));
-            break;
-        case ImportField::reportDue:
-            row.push_back(text_of(report_due));
-            break;
-        case ImportField::program:
-            row.push_back(grant.program);
-            break;
-        case ImportField::owner:
-            row.push_back(grant.owner);
-            break;
-        case ImportField::notes:
-            row.push_back(grant.notes);
-            break;
-        }
+    switch (field) {
+    case ImportField::title:
+        return use(grant.title);
+    case ImportField::funder:
+        return use(funder);
+    case ImportField::stage:
+        return use(label(grant.stage, lang));
+    case ImportField::ask:
+        return use(ask_text(grant));
+    case ImportField::awarded:
+        return use(text_of(grant.awarded));
+    case ImportField::probability:
+        return use(probability_text(grant));
+    case ImportField::loiDue:
+        return use(grant.loiDue);
+    case ImportField::applicationDue:
+        return use(grant.applicationDue);
+    case ImportField::submittedOn:
+        return use(grant.submittedOn);
+    case ImportField::decisionExpected:
+        return use(grant.decisionExpected);
+    case ImportField::decidedOn:
+        return use(grant.decidedOn);
+    case ImportField::awardStart:
+        return use(grant.awardStart);
+    case ImportField::awardEnd:
+        return use(grant.awardEnd);
+    case ImportField::reportDue:
+        return use(next_report_due(grant));
+    case ImportField::program:
+        return use(grant.program);
+    case ImportField::owner:
+        return use(grant.owner);
+    case ImportField::notes:
+        return use(grant.notes);
     }
-    return row;
 }
 
-CSVRow header_row(Lang lang)
-{
-    CSVRow row;
-    for (const ImportField field : all_import_fields)
-        row.emplace_back(title(field, lang));
-    return row;
-}
+struct AddToSheet {
+    CSVBuilder& sheet;
+
+    void operator()(std::string_view text) const { sheet.add_cell(text); }
+    void operator()(const std::optional<Day>& day) const { sheet.add_plain_cell(text_of(day)); }
+};
+
+struct AddToRow {
+    CSVRow& row;
+
+    void operator()(std::string_view text) const { row.emplace_back(text); }
+    void operator()(const std::optional<Day>& day) const { row.push_back(text_of(day)); }
+};
 
 } // namespace
 
 std::string GrantExporter::csv(const GrantFile& file, Lang lang)
 {
+    constexpr std::size_t usual_row_bytes = 512;
     const FunderNames names = funder_names(file);
-    std::string out;
-    CSVWriter::append_row(out, header_row(lang));
-    for (const Grant& grant : file.grants)
-        CSVWriter::append_row(out, cells(grant, funder_name(grant, names), lang));
-    return out;
+    CSVBuilder sheet;
+    sheet.reserve((1 + file.grants.size()) * usual_row_bytes);
+    for (const ImportField field : fields)
+        sheet.add_cell(title(field, lang));
+    sheet.end_row();
+    for (const Grant& grant : file.grants) {
+        const std::string_view funder = funder_name(grant, names);
+        for (const ImportField field : fields)
+            with_cell(field, grant, funder, lang, AddToSheet{sheet});
+        sheet.end_row();
+    }
+    return std::move(sheet).finish();
 }
 
 CSVRow GrantExporter::row(const Grant& grant, const GrantFile& file, Lang lang)
 {
-    return cells(grant, funder_name(grant, funder_names(file)), lang);
+    const auto funder = std::find_if(file.funders.begin(), file.funders.end(),
+        [&](const Funder& candidate) { return grant.funderID == candidate.id; });
+    const std::string_view name = funder == file.funders.end() ? std::string_view() : (*funder)->name;
+    CSVRow row;
+    for (const ImportField field : fields)
+        with_cell(field, grant, name, lang, AddToRow{row});
+    return row;
 }
 
 std::string GrantExporter::template_(Lang lang)

@@ -1,3 +1,4 @@
+#include "bench/json_walk.h"
 #include "bench/made_file.h"
 #include "bench/paired.h"
 #include "grants/grant_file_json.h"
@@ -16,49 +17,6 @@ namespace {
 
 const FreshValues fresh{[] { return Uuid{}; }, Instant{}};
 
-/// Touches every value as a reader has to: strings unescaped, numbers and literals parsed.
-std::size_t walk(simdjson::ondemand::value value)
-{
-    switch (value.type().value_unsafe()) {
-    case simdjson::ondemand::json_type::object: {
-        std::size_t sum = 0;
-        simdjson::ondemand::object object;
-        if (value.get_object().get(object))
-            return 0;
-        for (auto member : object) {
-            sum += member.unescaped_key().value_unsafe().size();
-            sum += walk(member.value().value_unsafe());
-        }
-        return sum;
-    }
-    case simdjson::ondemand::json_type::array: {
-        std::size_t sum = 0;
-        simdjson::ondemand::array array;
-        if (value.get_array().get(array))
-            return 0;
-        for (auto element : array)
-            sum += walk(element.value_unsafe());
-        return sum;
-    }
-    case simdjson::ondemand::json_type::string:
-        return value.get_string().value_unsafe().size();
-    case simdjson::ondemand::json_type::number:
-        return static_cast<std::size_t>(value.get_double().value_unsafe());
-    default:
-        return value.get_bool().value_unsafe() ? 1 : 0;
-    }
-}
-
-std::size_t walk_document(const std::string& json)
-{
-    simdjson::ondemand::parser parser;
-    simdjson::ondemand::document document;
-    const simdjson::padded_string_view padded(json, json.capacity());
-    if (parser.iterate(padded).get(document))
-        std::abort();
-    return walk(document.get_value().value_unsafe());
-}
-
 void read_file(benchmark::State& state)
 {
     std::string json = grants::write_grant_file(made_file(static_cast<std::size_t>(state.range(0))));
@@ -68,7 +26,7 @@ void read_file(benchmark::State& state)
     std::optional<Result<grants::GrantFileRead, grants::GrantFileError>> made;
     run_paired(
         state, [&] { made = grants::read_grant_file(std::move(taken_over), fresh); },
-        [&] { benchmark::DoNotOptimize(walk_document(json)); },
+        [&] { benchmark::DoNotOptimize(walk_json(json)); },
         [&] {
             made.reset();
             taken_over = json;

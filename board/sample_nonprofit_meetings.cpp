@@ -44,10 +44,12 @@ void winter(SampleStory& story)
         .motion(story.text(approve_regular, story.date(1, 27)), helen, samuel)
         .counted(7, 0)
         .item(AgendaSection::newBusiness,
-            story.text({"Senior Nutrition Partnership", "Alianza de nutrición para mayores"}), 15, marguerite)
-        .motion(story.text({"To apply to the Kestrel County Department of Health for the Senior Nutrition Partnership.",
-                    "Presentar al Departamento de Salud del condado de Kestrel la solicitud de la alianza de "
-                    "nutrición para mayores."}),
+            story.text({"Senior Nutrition Partnership", "Alianza de Nutrición para Mayores"}), 15, marguerite)
+        .motion(
+            story.text({"To accept the award of $64,000 from the Kestrel County Department of Health for the Senior "
+                        "Nutrition Partnership.",
+                "Aceptar la subvención de $64,000 del Kestrel County Department of Health para la Alianza de "
+                "Nutrición para Mayores."}),
             anita, joel)
         .counted(7, 0);
     story.approve_minutes(1, 2, story.board.meetings[1]->motions[0].number);
@@ -126,7 +128,7 @@ void annual_meeting(SampleStory& story)
         .item(AgendaSection::newBusiness, story.text({"Saint Brannoc application", "Solicitud a Saint Brannoc"}), 10,
             marguerite)
         .motion(story.text({"To apply to the Saint Brannoc Mission Fund.",
-                    "Presentar una solicitud al Fondo Misionero Saint Brannoc."}),
+                    "Presentar una solicitud al Saint Brannoc Mission Fund."}),
             carol, thomas)
         .counted(8, 0)
         .item(AgendaSection::newBusiness, story.text({"Elections", "Elecciones"}), 15, ruth)
@@ -226,7 +228,7 @@ void next_meeting(SampleStory& story)
             story.text({"Property insurance quotes", "Cotizaciones del seguro del inmueble"}), 5, victor)
         .carries_action(3)
         .item(AgendaSection::newBusiness,
-            story.text({"Refrigerated Van application", "Solicitud de la furgoneta refrigerada"}), 15, marguerite)
+            story.text({"Refrigerated Van application", "Solicitud de la Furgoneta Refrigerada"}), 15, marguerite)
         .detail(
             story.text({"Capital round, decision {}. The van replaces the 2011 truck. Ask is the full price.",
                            "Ronda de inversión, decisión el {}. La furgoneta reemplaza el camión de 2011. Se solicita "

@@ -4,10 +4,16 @@
 #include "board/motion_numbering.h"
 #include "platform/locale_text.h"
 
+#include <algorithm>
+
 namespace quillfern::board {
 namespace {
 
 constexpr std::int64_t story_today = days_from_civil(2026, 9, 10);
+
+/// Files hold the years 1 to 9999; a day of room at each end is for time zones.
+constexpr std::int64_t first_day = days_from_civil(1, 1, 2);
+constexpr std::int64_t last_day = days_from_civil(9999, 12, 30);
 
 } // namespace
 
@@ -32,7 +38,7 @@ SampleStory::SampleStory(SampleBoard which, std::int64_t today, Lang lang, const
 
 std::int64_t SampleStory::day(std::int64_t month, std::int64_t day_of_month, std::int64_t year) const
 {
-    return days_from_civil(year, month, day_of_month) + shift_;
+    return std::clamp(days_from_civil(year, month, day_of_month) + shift_, first_day, last_day);
 }
 
 Instant SampleStory::at(std::int64_t month, std::int64_t day_of_month, std::int64_t minutes, std::int64_t year) const

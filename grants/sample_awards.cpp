@@ -1,3 +1,4 @@
+#include "board/sample_board.h"
 #include "grants/sample_grant.h"
 
 namespace quillfern::grants {
@@ -12,6 +13,7 @@ SampleGrant senior_nutrition(const SampleFrame& at)
     grant.submittedOn = at.on(2025, 10, 29);
     grant.decisionExpected = at.on(2026, 1, 30);
     grant.decidedOn = at.on(2026, 1, 20);
+    grant.boardMotionID = board::sample_motion_id(board::SampleBoard::nonprofit, 3);
     grant.notes =
         at.text({"Delivers a 22-pound box to 140 homebound adults over 60 in four townships, twice a month. The "
                  "county pays quarterly after each report is accepted; ask Owen before moving any line by more "
@@ -195,6 +197,7 @@ SampleGrant emergency_food(const SampleFrame& at)
     grant.submittedOn = at.on(2026, 6, 29);
     grant.decisionExpected = at.on(2026, 8, 7);
     grant.decidedOn = at.on(2026, 8, 4);
+    grant.boardMotionID = board::sample_motion_id(board::SampleBoard::nonprofit, 10);
     grant.notes = at.text({"Shelf-stable food for the winter; receipts only, no salaries.",
         "Alimentos no perecederos para el invierno; solo con recibos, sin salarios."});
     draft

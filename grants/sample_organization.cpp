@@ -1,5 +1,6 @@
 #include "grants/sample_organization.h"
 
+#include "board/sample_board.h"
 #include "grants/agenda.h"
 #include "grants/sample_grant.h"
 
@@ -62,7 +63,7 @@ std::map<std::string, Day> days_in_calendar(const GrantFile& file)
 
 } // namespace
 
-SampleContent sample_content(const Day& today, Lang lang)
+SampleContent sample_content(const Day& today, Lang lang, const board::Calendar& calendar)
 {
     const SampleFrame frame(today, lang);
     SampleContent content;
@@ -75,6 +76,7 @@ SampleContent sample_content(const Day& today, Lang lang)
     for (Person& person : sample_people(frame))
         file.people.emplace_back(std::move(person));
     file.calendarAdded = days_in_calendar(file);
+    file.board = board::sample_board(board::SampleBoard::nonprofit, today.days_since_epoch(), lang, calendar);
     content.logo = sample_logo_png();
     return content;
 }

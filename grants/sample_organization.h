@@ -1,5 +1,6 @@
 #pragma once
 
+#include "board/calendar.h"
 #include "grants/grant_file.h"
 
 #include <map>
@@ -11,7 +12,8 @@
 /// It holds every stage and every state of a report, late and future payments, dated and undated milestones, and files.
 /// Its story moves with `today`, so that three things are always overdue and five due in the next seven days; on
 /// September 10, 2026 its fiscal year begins in July, on other days in the month that keeps this year's thirteen grants
-/// in one fiscal year. The same day and language give the same bytes.
+/// in one fiscal year. The same day, language and calendar give the same bytes. The calendar says when its board meets
+/// (half past six in the evening).
 namespace quillfern::grants {
 
 struct SampleContent {
@@ -20,6 +22,6 @@ struct SampleContent {
     std::string_view logo; ///< PNG
 };
 
-SampleContent sample_content(const Day& today, Lang lang);
+SampleContent sample_content(const Day& today, Lang lang, const board::Calendar& calendar = board::Calendar::local());
 
 } // namespace quillfern::grants

@@ -1,3 +1,4 @@
+#include "board/sample_board.h"
 #include "grants/sample_grant.h"
 
 namespace quillfern::grants {
@@ -151,6 +152,7 @@ SampleGrant refrigerated_van(const SampleFrame& at)
     grant.applicationDue = at.on(2026, 10, 30);
     grant.decisionExpected = at.on(2027, 3, 31);
     grant.probability = 25;
+    grant.boardItemID = board::sample_grant_item_id();
     grant.notes = at.text({"Replaces the 2011 truck; no match is required. The board has to authorize the application.",
         "Reemplaza el camión de 2011; no se exige contrapartida. La junta debe autorizar la solicitud."});
     draft

@@ -67,7 +67,7 @@ struct Board {
     VoteRule voteRule;
     std::string motionPrefix;
     std::string defaultLocation;
-    std::int64_t defaultStartMinutes = 19 * 60; ///< after midnight
+    std::int64_t defaultStartMinutes = 1140; ///< after midnight: seven in the evening
     std::int64_t defaultLengthMinutes = 90;
     std::vector<Shared<Meeting>> meetings;
     std::vector<ActionItem> actions;

@@ -7,7 +7,7 @@
 namespace quillfern::board {
 namespace {
 
-constexpr std::int64_t minutes_per_day = 24 * 60;
+constexpr std::int64_t minutes_per_day = std::int64_t{24} * 60;
 constexpr std::int64_t ms_per_minute = 60'000;
 constexpr std::int64_t ms_per_day = minutes_per_day * ms_per_minute;
 

@@ -179,7 +179,7 @@ Result<TakenUp, EditRefusal> take_up_again(const Board& board, const Uuid& meeti
 
 Edited remove_motion(const Board& board, const Uuid& meeting_id, const Uuid& motion_id)
 {
-    const Edited remaining = change_meeting(board, meeting_id, [&](Meeting& meeting) -> Refused {
+    Edited remaining = change_meeting(board, meeting_id, [&](Meeting& meeting) -> Refused {
         const auto removed =
             std::erase_if(meeting.motions, [&](const Motion& motion) { return motion.id == motion_id; });
         return removed ? Refused() : EditRefusal::noSuchMotion;

@@ -14,7 +14,9 @@ public:
     SampleMeeting(SampleStory& story, MeetingKind kind, Instant date);
     ~SampleMeeting();
     SampleMeeting(const SampleMeeting&) = delete;
+    SampleMeeting(SampleMeeting&&) = delete;
     SampleMeeting& operator=(const SampleMeeting&) = delete;
+    SampleMeeting& operator=(SampleMeeting&&) = delete;
 
     SampleMeeting& held(std::int64_t late_minutes, std::int64_t length_minutes);
     SampleMeeting& marked(AttendanceStatus status, std::initializer_list<std::uint32_t> members);

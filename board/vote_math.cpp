@@ -7,7 +7,7 @@ namespace quillfern::board::VoteMath {
 namespace {
 
 /// Sums of four counts and products of two need more than 64 bits to stay exact.
-__extension__ typedef __int128 Wide;
+__extension__ typedef __int128 Wide; // NOLINT(modernize-use-using): only a typedef takes the extension mark
 
 std::int64_t narrowed(Wide value)
 {

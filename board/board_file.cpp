@@ -1,8 +1,10 @@
 #include "board/board_file.h"
 
 #include "board/board_values.h"
+#include "platform/package_reader.h"
 
 #include <string_view>
+#include <system_error>
 
 namespace quillfern::board {
 namespace {
@@ -10,6 +12,38 @@ namespace {
 constexpr std::string_view board_application = "Marrowind";
 constexpr std::string_view web_address = QUILLFERN_BOARD_APP_WEB_ADDRESS;
 constexpr std::string_view main_file = "Board.json";
+
+constexpr Text unreadable{"The board can’t be read: ", "No se puede leer la junta: "};
+constexpr Text newer{"This board was saved by a newer version, in format {}. Nothing in it was changed.",
+    "Una versión más reciente guardó esta junta, en el formato {}. No se cambió nada en ella."};
+constexpr Text not_a_package{
+    "This isn’t a board file: it isn’t a folder.", "Esto no es un archivo de junta: no es una carpeta."};
+constexpr Text missing_board{
+    "This isn’t a board file: Board.json is missing from it.", "Esto no es un archivo de junta: falta Board.json."};
+
+ReadError read_error(const platform::PackageReadError& error)
+{
+    switch (error.problem) {
+    case platform::PackageProblem::notFound:
+    case platform::PackageProblem::notAPackage:
+        return NotAPackage{};
+    case platform::PackageProblem::missingMainFile:
+        return MissingBoard{};
+    case platform::PackageProblem::tooLarge:
+        return Unreadable{error.path + ": too large for a board"};
+    case platform::PackageProblem::unreadable:
+        break;
+    }
+    return Unreadable{error.path + ": " + std::generic_category().message(error.systemError)};
+}
+
+/// What is written has to be what was meant: it is read back before anything on the disk changes.
+bool reads_back(const std::string& text, Board board)
+{
+    board.formatVersion = Board::current_format;
+    const auto read = read_board_text(text, {[] { return Uuid{}; }, {}});
+    return read && read->board == board && read->notes.empty();
+}
 
 } // namespace
 
@@ -56,6 +90,43 @@ Result<BoardRead, ReadError> read_board_text(std::string json, const FreshValues
     if (read->board.formatVersion > Board::current_format)
         return fail(ReadError(NewerFormat{read->board.formatVersion}));
     return std::move(*read);
+}
+
+Result<BoardRead, ReadError> read_board_file(const std::string& path, const FreshValues& fresh)
+{
+    auto package = platform::read_package_folder(path, board_package_layout());
+    if (!package)
+        return fail(read_error(package.error()));
+    return read_board_text(std::move(package->contents.mainText), fresh);
+}
+
+std::string message(const ReadError& error, Lang lang)
+{
+    if (const auto* problem = std::get_if<Unreadable>(&error))
+        return std::string(unreadable(lang)) + problem->detail;
+    if (std::holds_alternative<NotAPackage>(error))
+        return std::string(not_a_package(lang));
+    if (std::holds_alternative<MissingBoard>(error))
+        return std::string(missing_board(lang));
+    std::string text(newer(lang));
+    return text.replace(text.find("{}"), 2, std::to_string(std::get<NewerFormat>(error).version));
+}
+
+Result<platform::SaveOutcome, BoardWriteError> write_board_file(
+    const Board& board, const std::string& path, platform::Existing existing, const std::string& today)
+{
+    const platform::PackageContents contents = board_package(board);
+    if (!reads_back(contents.mainText, board))
+        return fail(BoardWriteError(platform::SaveError{
+            platform::SaveProblem::badContents, platform::SaveStep::check, std::string(main_file), 0}));
+    const auto lock = platform::DocumentLock::acquire(path);
+    if (!lock)
+        return fail(BoardWriteError(lock.error()));
+    const platform::SaveRequest request{board_package_layout(), contents, today, nullptr};
+    auto saved = platform::save_package_as(path, request, existing, platform::Ownership::copy, *lock);
+    if (!saved)
+        return fail(BoardWriteError(saved.error()));
+    return std::move(saved->outcome);
 }
 
 } // namespace quillfern::board

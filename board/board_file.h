@@ -3,7 +3,7 @@
 #include "base/read_state.h"
 #include "base/result.h"
 #include "board/board_json.h"
-#include "platform/package_layout.h"
+#include "platform/directory_save.h"
 
 #include <cstdint>
 #include <string>
@@ -49,5 +49,19 @@ platform::PackageContents board_package(const Board& board);
 
 /// From the text of "Board.json".
 Result<BoardRead, ReadError> read_board_text(std::string json, const FreshValues& fresh);
+
+/// From the package itself; links inside it are not followed.
+Result<BoardRead, ReadError> read_board_file(const std::string& path, const FreshValues& fresh);
+
+/// A sentence for the person who wanted to open the board.
+std::string message(const ReadError& error, Lang lang);
+
+/// Another program has the package, or it could not be saved.
+using BoardWriteError = std::variant<platform::LockError, platform::SaveError>;
+
+/// Writes the board as a package of its own, whole or not at all. `today` (2026-03-07) names a copy that someone else
+/// wrote in the meantime.
+Result<platform::SaveOutcome, BoardWriteError> write_board_file(
+    const Board& board, const std::string& path, platform::Existing existing, const std::string& today);
 
 } // namespace quillfern::board

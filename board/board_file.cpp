@@ -112,20 +112,17 @@ std::string message(const ReadError& error, Lang lang)
     return text.replace(text.find("{}"), 2, std::to_string(std::get<NewerFormat>(error).version));
 }
 
-Result<platform::SaveOutcome, BoardWriteError> write_board_file(
-    const Board& board, const std::string& path, platform::Existing existing, const std::string& today)
+Result<platform::SaveOutcome, platform::SaveError> write_board_file(const Board& board, const std::string& path,
+    platform::Existing existing, const platform::DocumentLock& lock, const std::string& today)
 {
     const platform::PackageContents contents = board_package(board);
     if (!reads_back(contents.mainText, board))
-        return fail(BoardWriteError(platform::SaveError{
-            platform::SaveProblem::badContents, platform::SaveStep::check, std::string(main_file), 0}));
-    const auto lock = platform::DocumentLock::acquire(path);
-    if (!lock)
-        return fail(BoardWriteError(lock.error()));
+        return fail(platform::SaveError{
+            platform::SaveProblem::badContents, platform::SaveStep::check, std::string(main_file), 0});
     const platform::SaveRequest request{board_package_layout(), contents, today, nullptr};
-    auto saved = platform::save_package_as(path, request, existing, platform::Ownership::copy, *lock);
+    auto saved = platform::save_package_as(path, request, existing, platform::Ownership::copy, lock);
     if (!saved)
-        return fail(BoardWriteError(saved.error()));
+        return fail(saved.error());
     return std::move(saved->outcome);
 }
 

@@ -56,12 +56,9 @@ Result<BoardRead, ReadError> read_board_file(const std::string& path, const Fres
 /// A sentence for the person who wanted to open the board.
 std::string message(const ReadError& error, Lang lang);
 
-/// Another program has the package, or it could not be saved.
-using BoardWriteError = std::variant<platform::LockError, platform::SaveError>;
-
-/// Writes the board as a package of its own, whole or not at all. `today` (2026-03-07) names a copy that someone else
-/// wrote in the meantime.
-Result<platform::SaveOutcome, BoardWriteError> write_board_file(
-    const Board& board, const std::string& path, platform::Existing existing, const std::string& today);
+/// Writes the board as a package of its own, whole or not at all. `lock` is the lock of `path`; `today` (2026-03-07)
+/// names a copy that someone else wrote in the meantime.
+Result<platform::SaveOutcome, platform::SaveError> write_board_file(const Board& board, const std::string& path,
+    platform::Existing existing, const platform::DocumentLock& lock, const std::string& today);
 
 } // namespace quillfern::board

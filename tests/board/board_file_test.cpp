@@ -36,6 +36,13 @@ protected:
         return read ? board::ReadError(Unreadable{"accepted"}) : read.error();
     }
 
+    Result<platform::SaveOutcome, platform::SaveError> write(const Board& board, platform::Existing existing)
+    {
+        const auto lock = platform::DocumentLock::acquire_in(folder, package);
+        EXPECT_TRUE(lock.ok());
+        return write_board_file(board, package, existing, *lock, "2026-09-10");
+    }
+
     std::string text_of(const std::filesystem::path& path)
     {
         std::ifstream file(path);
@@ -76,7 +83,7 @@ TEST(BoardPackage, IsNotOpenedWhenItsFormatIsNewer)
 TEST_F(BoardPackageOnDisk, IsWrittenWholeAndReadBack)
 {
     Board board = sample_board(SampleBoard::club, 20'706, Lang::es, Calendar::with_offset(0));
-    ASSERT_TRUE(write_board_file(board, package, platform::Existing::refuse, "2026-09-10").ok());
+    ASSERT_TRUE(write(board, platform::Existing::refuse).ok());
     EXPECT_EQ(text_of(package / "Read Me.txt"), read_me(board));
     EXPECT_EQ(text_of(package / "Board.json"), write_board(board));
     std::set<std::string> names;
@@ -86,10 +93,10 @@ TEST_F(BoardPackageOnDisk, IsWrittenWholeAndReadBack)
     EXPECT_EQ(read_board_file(package, fresh)->board, board);
 
     board.name = "Renamed";
-    const auto again = write_board_file(board, package, platform::Existing::refuse, "2026-09-10");
+    const auto again = write(board, platform::Existing::refuse);
     ASSERT_FALSE(again.ok());
-    EXPECT_EQ(std::get<platform::SaveError>(again.error()).problem, platform::SaveProblem::exists);
-    ASSERT_TRUE(write_board_file(board, package, platform::Existing::replacePackage, "2026-09-10").ok());
+    EXPECT_EQ(again.error().problem, platform::SaveProblem::exists);
+    ASSERT_TRUE(write(board, platform::Existing::replacePackage).ok());
     EXPECT_EQ(read_board_file(package, fresh)->board, board);
 }
 

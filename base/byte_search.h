@@ -51,7 +51,7 @@ private:
 
     static std::uint64_t word_at(const char* bytes)
     {
-        std::uint64_t word;
+        std::uint64_t word = 0;
         std::memcpy(&word, bytes, sizeof word);
         return word;
     }

@@ -142,7 +142,7 @@ std::string CSVReader::decode(std::string bytes)
 Delimiter CSVReader::detectDelimiter(std::string_view text)
 {
     struct Candidate {
-        Delimiter delimiter;
+        Delimiter delimiter = Delimiter::comma;
         std::size_t count = 0;
     };
     // In the order in which they win a tie.

@@ -15,7 +15,9 @@ namespace {
 
 bool would_run_as_a_formula(std::string_view cell)
 {
-    return !cell.empty() && std::string_view("=+-@\t\r").find(cell.front()) != std::string_view::npos
+    if (cell.starts_with('\t') || cell.starts_with('\r'))
+        return true;
+    return !cell.empty() && std::string_view("=+-@").find(cell.front()) != std::string_view::npos
         && !platform::is_joined(cell, 0) && !is_decimal(cell);
 }
 

@@ -1,0 +1,114 @@
+#include "platform/document_lock.h"
+
+#include "platform/file_bytes.h"
+#include "platform/hidden_names.h"
+#include "platform/resolve.h"
+#include "platform/sha256.h"
+
+#include <charconv>
+#include <climits>
+#include <cstdlib>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace quillfern::platform {
+namespace {
+
+LockError no_lock(std::string path, int error)
+{
+    return {.held = false, .holder = {}, .systemError = error, .path = std::move(path)};
+}
+
+/// Makes the folder when it is missing. In /tmp anybody could have made it first, so it must be a real folder that is
+/// ours alone.
+Result<std::string, LockError> private_folder(const std::string& path, SystemCalls& calls)
+{
+    if (calls.make_folder_at(AT_FDCWD, path.c_str(), 0700) != 0 && errno != EEXIST)
+        return fail(no_lock(path, errno));
+    struct stat status = {};
+    if (calls.status_at(AT_FDCWD, path.c_str(), status) != 0)
+        return fail(no_lock(path, errno));
+    if (!S_ISDIR(status.st_mode) || status.st_uid != geteuid() || (status.st_mode & 077) != 0)
+        return fail(no_lock(path, EPERM));
+    return path;
+}
+
+Result<std::string, LockError> lock_folder(SystemCalls& calls)
+{
+    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
+    if (runtime && *runtime == '/')
+        if (auto folder = private_folder(join_path(runtime, "quillfern"), calls))
+            return folder;
+    return private_folder("/tmp/quillfern-" + std::to_string(geteuid()), calls);
+}
+
+Result<std::string, LockError> key_of(const std::string& document, SystemCalls& calls)
+{
+    const SplitPath split = split_path(resolve_document(document));
+    const Descriptor folder = open_folder_to_pass(calls, split.folder);
+    struct stat status = {};
+    if (!folder || calls.status(folder.get(), status) != 0)
+        return fail(no_lock(split.folder, errno));
+    return hex(sha256(std::to_string(status.st_dev) + ' ' + std::to_string(status.st_ino) + ' ' + split.name));
+}
+
+std::string host_name()
+{
+    char name[HOST_NAME_MAX + 1] = {};
+    gethostname(name, HOST_NAME_MAX);
+    return name;
+}
+
+/// The file's text: the process, a blank, the host.
+void write_holder(SystemCalls& calls, int file)
+{
+    const std::string text = std::to_string(getpid()) + ' ' + host_name() + '\n';
+    if (ftruncate(file, 0) == 0)
+        write_bytes(calls, file, text); // Who holds it is a courtesy; holding it is not affected.
+}
+
+LockHolder read_holder(SystemCalls& calls, int file)
+{
+    LockHolder holder;
+    std::string text;
+    if (read_bytes(calls, file, 4096, text) != 0)
+        return holder;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), holder.process);
+    if (error != std::errc() || *end != ' ' || !text.ends_with('\n'))
+        return {};
+    holder.host = std::string_view(text).substr(static_cast<std::size_t>(end + 1 - text.data()));
+    holder.host.pop_back();
+    return holder;
+}
+
+} // namespace
+
+Result<DocumentLock, LockError> DocumentLock::acquire(const std::string& document, SystemCalls& calls)
+{
+    const auto folder = lock_folder(calls);
+    if (!folder)
+        return fail(folder.error());
+    return acquire_in(*folder, document, calls);
+}
+
+Result<DocumentLock, LockError> DocumentLock::acquire_in(
+    const std::string& folder, const std::string& document, SystemCalls& calls)
+{
+    const auto key = key_of(document, calls);
+    if (!key)
+        return fail(key.error());
+    // The file stays when the lock goes: removing one that another program is about to lock would let two hold it.
+    const std::string path = join_path(folder, *key + ".lock");
+    Descriptor file = open_file(calls, AT_FDCWD, path.c_str(), O_RDWR | O_CREAT, 0600);
+    if (!file)
+        return fail(no_lock(path, errno));
+    if (retrying([&] { return calls.lock(file.get()); }) != 0) {
+        if (errno != EAGAIN && errno != EACCES)
+            return fail(no_lock(path, errno));
+        return fail(LockError{.held = true, .holder = read_holder(calls, file.get()), .systemError = 0, .path = path});
+    }
+    write_holder(calls, file.get());
+    return DocumentLock(std::move(file));
+}
+
+} // namespace quillfern::platform

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/package_listing.h"
+
+#include <memory>
+#include <set>
+#include <vector>
+
+namespace quillfern::platform {
+
+/// Where one open document stands on the disk, and how it looked there when it was read or last saved by us.
+///
+/// Held by whoever holds the document; reading makes it, saving brings it up to date. One thread at a time, but for
+/// `tree`, which blobs share.
+struct PackagePlace {
+    std::shared_ptr<TreeLocation> tree; ///< its path is the document's
+    Fingerprint fingerprint;
+
+    /// Attachments that others have put there and that the document has not taken in. Each save carries them over.
+    std::set<std::string, std::less<>> arrived = {};
+
+    /// False after a save whose last flush failed: no one knows which of the files reached the disk, so the next save
+    /// writes every one afresh and links to none.
+    bool trusted = true;
+
+    /// Displaced trees that such a save had to keep; the next good save disposes of them.
+    std::vector<std::shared_ptr<TreeLocation>> keptTrees = {};
+};
+
+} // namespace quillfern::platform

@@ -1,0 +1,129 @@
+#include "platform/settle.h"
+
+#include "platform/file_bytes.h"
+#include "platform/hidden_names.h"
+
+#include <utility>
+
+namespace quillfern::platform {
+namespace {
+
+class Settling {
+public:
+    Settling(SystemCalls& calls, PackagePlace& place, const SaveRequest& request, SaveOutcome& outcome)
+        : calls_(calls), place_(place), request_(request), outcome_(outcome), document_(place.tree->path())
+    {
+    }
+
+    void settle(const Displaced& displaced);
+    void put_away(const std::shared_ptr<TreeLocation>& tree);
+
+private:
+    void keep(const std::shared_ptr<TreeLocation>& tree, int error)
+    {
+        outcome_.displacedError = error;
+        place_.keptTrees.push_back(tree);
+    }
+
+    void keep_conflict(const std::shared_ptr<TreeLocation>& tree);
+    int carry_over_late(const Displaced& displaced, const PackageListing& now);
+
+    SystemCalls& calls_;
+    PackagePlace& place_;
+    const SaveRequest& request_;
+    SaveOutcome& outcome_;
+    std::string document_;
+};
+
+void Settling::settle(const Displaced& displaced)
+{
+    const Descriptor folder = open_folder(calls_, displaced.tree->path());
+    if (!folder)
+        return keep(displaced.tree, errno);
+    const auto now = list_package(calls_, folder.get(), request_.layout);
+    if (!now)
+        return keep(displaced.tree, now.error());
+    Fingerprint expected = displaced.expected;
+    expected.listing.attachments.insert(displaced.carried.begin(), displaced.carried.end());
+    const auto difference = compare_with(calls_, expected, *now, folder.get(), request_.layout);
+    if (!difference)
+        return keep(displaced.tree, difference.error());
+    if (*difference != Difference::none)
+        return keep_conflict(displaced.tree);
+    if (const int error = carry_over_late(displaced, *now))
+        return keep(displaced.tree, error);
+    put_away(displaced.tree);
+}
+
+void Settling::keep_conflict(const std::shared_ptr<TreeLocation>& tree)
+{
+    if (const auto kept = keep_as_conflict(calls_, tree, document_, request_.today); !kept)
+        keep(tree, kept.error());
+    outcome_.conflict = tree->path();
+}
+
+/// Attachments that came between the first look and the exchange.
+int Settling::carry_over_late(const Displaced& displaced, const PackageListing& now)
+{
+    std::vector<std::string> late;
+    for (const auto& [name, stamp] : now.attachments) {
+        if (displaced.expected.listing.attachments.contains(name) || displaced.carried.contains(name)
+            || request_.contents.attachments.contains(name))
+            continue;
+        late.push_back(join_path(request_.layout.attachmentsFolder, name));
+        if (place_.arrived.insert(name).second)
+            outcome_.arrived.push_back(name);
+    }
+    return move_entries(calls_, displaced.tree->path(), document_, late);
+}
+
+void Settling::put_away(const std::shared_ptr<TreeLocation>& tree)
+{
+    if (!request_.displaced) {
+        if (const int error = discard_tree(calls_, tree, document_, request_.layout))
+            keep(tree, error);
+        return;
+    }
+    if (const auto taken = request_.displaced->take(document_, tree); !taken)
+        return keep(tree, taken.error());
+    outcome_.displaced = tree->path();
+}
+
+} // namespace
+
+std::shared_ptr<TreeLocation> set_apart(const std::shared_ptr<TreeLocation>& tree, const std::string& path)
+{
+    auto displaced = std::make_shared<TreeLocation>(path);
+    for (const Blob& blob : tree->living()) {
+        StoredFile file = std::get<StoredFile>(blob.source());
+        file.tree = displaced;
+        blob.move_to(std::move(file));
+    }
+    return displaced;
+}
+
+void adopt(const PackageContents& contents, const PackageLayout& layout, const PackageListing& saved,
+    const std::shared_ptr<TreeLocation>& tree, bool keep_memory)
+{
+    const auto move = [&](const Blob& blob, const std::string& folder, const std::string& name, FileStamp stamp) {
+        if (!keep_memory || std::holds_alternative<StoredFile>(blob.source()))
+            blob.move_to(StoredFile{tree, folder, name, stamp});
+    };
+    for (const auto& [name, blob] : contents.attachments)
+        move(blob, layout.attachmentsFolder, name, saved.attachments.at(name));
+    if (contents.logo && saved.logo)
+        move(*contents.logo, "", layout.logoFile, *saved.logo);
+}
+
+void settle(SystemCalls& calls, PackagePlace& place, const SaveRequest& request, const Displaced& displaced,
+    SaveOutcome& outcome)
+{
+    const auto kept_before = std::exchange(place.keptTrees, {});
+    Settling settling(calls, place, request, outcome);
+    for (const auto& tree : kept_before)
+        settling.put_away(tree);
+    if (displaced.tree)
+        settling.settle(displaced);
+}
+
+} // namespace quillfern::platform

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "grants/org_package.h"
+
+#include <string>
+#include <string_view>
+
+/// Files kept with grants, and the logo: edits from one package value to the next.
+namespace quillfern::grants {
+
+constexpr std::int64_t largest_attachment =
+    104'857'600; ///< 100 MiB, so that the document stays easy to move and back up
+
+enum class AttachmentError { tooBig, empty, noSuchGrant };
+
+struct AddedAttachment {
+    OrgPackage package;
+    Attachment attachment;
+};
+
+/// The bytes are stored under a fresh name that keeps only the extension of `original_name`: a name of the user's could
+/// clash with another, or not be allowed on another disk.
+Result<AddedAttachment, AttachmentError> add_attachment(const OrgPackage& package, const Uuid& grant, std::string bytes,
+    std::string_view original_name, AttachmentKind kind, const FreshValues& fresh);
+
+/// Drops the record and its bytes. The bytes stay when another record names them; without such a grant or attachment
+/// the package comes back as it is.
+OrgPackage remove_attachment(const OrgPackage& package, const Uuid& grant, const Uuid& attachment);
+
+Result<Shared<std::string>, platform::BlobError> read_attachment(
+    const OrgPackage& package, std::string_view stored_name);
+
+OrgPackage with_logo(OrgPackage package, std::string png);
+OrgPackage without_logo(OrgPackage package);
+
+} // namespace quillfern::grants

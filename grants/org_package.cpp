@@ -1,0 +1,112 @@
+#include "grants/org_package.h"
+
+#include "grants/grant_file_json.h"
+#include "platform/clock.h"
+#include "platform/package_reader.h"
+#include "platform/random_uuid.h"
+
+#include <cstring>
+
+namespace quillfern::grants {
+namespace {
+
+using platform::PackageProblem;
+using Reason = PackageError::Reason;
+
+const platform::PackageLayout& layout()
+{
+    static const platform::PackageLayout names{
+        .mainFile = "Quillfern.json", .attachmentsFolder = "Attachments", .logoFile = "Logo.png"};
+    return names;
+}
+
+FreshValues fresh_values()
+{
+    return {platform::random_uuid, platform::now()};
+}
+
+PackageError package_error(const platform::PackageReadError& error)
+{
+    const std::string system = error.systemError != 0 ? std::strerror(error.systemError) : "";
+    switch (error.problem) {
+    case PackageProblem::notFound:
+    case PackageProblem::notAPackage:
+        return {Reason::notAPackage, system};
+    case PackageProblem::missingMainFile:
+        return {Reason::missingData, layout().mainFile + " is missing"};
+    case PackageProblem::tooLarge:
+        return {Reason::unreadable, layout().mainFile + " is larger than 256 MB"};
+    case PackageProblem::unreadable:
+        break;
+    }
+    return {Reason::unreadable, system};
+}
+
+PackageError package_error(const GrantFileError& error)
+{
+    if (const auto* newer = std::get_if<NewerFormat>(&error))
+        return {Reason::newerFormat, "Format version " + std::to_string(newer->formatVersion)};
+    return {Reason::unreadable, std::get<ReadError>(error).text()};
+}
+
+/// Whether the text gives the same records back. Only then may it replace what is on the disk.
+bool reads_back(const std::string& text, const GrantFile& file)
+{
+    auto read = read_grant_file(text, fresh_values());
+    if (!read || !read->notes.empty())
+        return false;
+    read->file.formatVersion = file.formatVersion; // written as the current one, whatever was read
+    return read->file == file;
+}
+
+platform::PackageContents contents_of(const OrgPackage& package)
+{
+    return {.mainText = write_grant_file(package.file), .attachments = *package.attachments, .logo = package.logo};
+}
+
+platform::SaveRequest request_for(
+    const OrgPackage& package, const platform::PackageContents& contents, platform::DisplacedTrees* displaced)
+{
+    return {.layout = layout(),
+        .contents = contents,
+        .today = today_here().text(),
+        .readsBack = [&] { return reads_back(contents.mainText, package.file); },
+        .displaced = displaced};
+}
+
+} // namespace
+
+Result<OpenedPackage, PackageError> read_package(
+    const std::string& path, const platform::DocumentLock* lock, platform::DisplacedTrees* displaced)
+{
+    auto folder = platform::read_package_folder(path, layout(), lock);
+    if (!folder)
+        return fail(package_error(folder.error()));
+    auto decoded = read_grant_file(std::move(folder->contents.mainText), fresh_values());
+    if (!decoded)
+        return fail(package_error(decoded.error()));
+    if (lock)
+        platform::clean_leftovers(*folder->place, layout(), displaced, *lock);
+    return OpenedPackage{
+        .package = {std::move(decoded->file), std::move(folder->contents.attachments), folder->contents.logo},
+        .notes = std::move(decoded->notes),
+        .unknownEntries = std::move(folder->unknownEntries),
+        .place = std::move(folder->place)};
+}
+
+Result<platform::SaveOutcome, platform::SaveError> write_package(const OrgPackage& package,
+    platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced)
+{
+    const platform::PackageContents contents = contents_of(package);
+    return platform::save_package(place, request_for(package, contents, displaced), lock);
+}
+
+Result<platform::NewPackage, platform::SaveError> write_package_as(const OrgPackage& package, const std::string& path,
+    platform::Existing existing, platform::Ownership ownership, const platform::DocumentLock& lock,
+    platform::DisplacedTrees* displaced)
+{
+    const platform::PackageContents contents = contents_of(package);
+    return platform::save_package_as(path, request_for(package, contents, displaced), existing, ownership, lock);
+}
+
+} // namespace quillfern::grants

@@ -81,4 +81,13 @@ SampleContent sample_content(const Day& today, Lang lang, const board::Calendar&
     return content;
 }
 
+OrgPackage sample_organization(const Day& today, Lang lang, const board::Calendar& calendar)
+{
+    SampleContent content = sample_content(today, lang, calendar);
+    AttachmentBytes attachments;
+    for (auto& [stored_name, bytes] : content.attachments)
+        attachments.emplace(stored_name, platform::Blob(std::move(bytes)));
+    return {std::move(content.file), std::move(attachments), platform::Blob(std::string(content.logo))};
+}
+
 } // namespace quillfern::grants

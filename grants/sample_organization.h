@@ -2,6 +2,7 @@
 
 #include "board/calendar.h"
 #include "grants/grant_file.h"
+#include "grants/org_package.h"
 
 #include <map>
 #include <string>
@@ -23,5 +24,8 @@ struct SampleContent {
 };
 
 SampleContent sample_content(const Day& today, Lang lang, const board::Calendar& calendar = board::Calendar::local());
+
+/// The same as a document.
+OrgPackage sample_organization(const Day& today, Lang lang, const board::Calendar& calendar = board::Calendar::local());
 
 } // namespace quillfern::grants

@@ -1,0 +1,11 @@
+#include "cli/verbs.h"
+
+namespace quillfern::cli {
+
+void add_export(Verbs verbs)
+{
+    const Verbs kinds = verbs.group("export", "Write the package, or a part of it, to another file");
+    add_export_package(kinds);
+}
+
+} // namespace quillfern::cli

@@ -24,9 +24,12 @@ void add_all_verbs(Verbs verbs)
 {
     add_check(verbs);
     add_agenda(verbs);
+    add_summary(verbs);
+    add_board(verbs);
     add_reports(verbs);
     add_sample(verbs);
     add_export(verbs);
+    add_table(verbs);
 }
 
 } // namespace quillfern::cli

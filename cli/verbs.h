@@ -47,10 +47,17 @@ private:
 void add_all_verbs(Verbs verbs);
 
 void add_agenda(Verbs verbs);
+void add_board(Verbs verbs);
 void add_check(Verbs verbs);
 void add_export(Verbs verbs);
+void add_export_board(Verbs verbs);
+void add_export_csv(Verbs verbs);
+void add_export_ics(Verbs verbs);
 void add_export_package(Verbs verbs);
+void add_export_template(Verbs verbs);
 void add_reports(Verbs verbs);
 void add_sample(Verbs verbs);
+void add_summary(Verbs verbs);
+void add_table(Verbs verbs);
 
 } // namespace quillfern::cli

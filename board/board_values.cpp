@@ -71,6 +71,7 @@ std::vector<Member> current_members(const Board& board)
         return std::tie(a.member->role, a.sort_key) < std::tie(b.member->role, b.sort_key);
     });
     std::vector<Member> members;
+    members.reserve(rows.size());
     for (const Row& row : rows)
         members.push_back(*row.member);
     return members;

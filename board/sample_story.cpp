@@ -32,7 +32,7 @@ SampleStory::SampleStory(SampleBoard which, std::int64_t today, Lang lang, const
     : which_(which), shift_(today - story_today), lang_(lang), calendar_(calendar)
 {
     board.id = id(SampleRecord::board, 1);
-    board.created = at(1, 5, 9 * 60);
+    board.created = at(1, 5, 540);
     board.sample = true;
 }
 

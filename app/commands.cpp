@@ -1,0 +1,141 @@
+#include "app/commands.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace quillfern::app {
+namespace {
+
+using desktop::CommandRow;
+using enum desktop::MenuId;
+
+constexpr bool shows_document(const CommandState& state)
+{
+    return state.hasDocument;
+}
+
+constexpr bool shows_meeting(const CommandState& state)
+{
+    return state.showsMeeting;
+}
+
+constexpr bool shows_no_meeting(const CommandState& state)
+{
+    return !state.showsMeeting;
+}
+
+constexpr auto table = std::to_array<Command>({
+    {{"new", file, file_new_group, "New", "Ctrl+N"}},
+    {{"open", file, file_new_group, "Open…", "Ctrl+O"}, [](CommandTarget& target) { target.choose_file(); }},
+    {{"openSample", file, file_new_group, "Open the Sample Organization", ""},
+        [](CommandTarget& target) { target.open_sample(); }},
+    {{"newGrant", file, file_new_group, "New Grant", "Ctrl+Alt+N"}},
+    {{"newMeeting", file, file_new_group, "New Meeting…", "Ctrl+Alt+Shift+N"}},
+    {{"newMotion", file, file_new_group, "New Motion…", "Ctrl+Alt+M"}},
+    {{"newAction", file, file_new_group, "New Action Item…", "Ctrl+Alt+Shift+A"}},
+    {{"addMember", file, file_new_group, "Add Board Member…", ""}},
+    {{"addPerson", file, file_new_group, "Add Person…", ""}},
+    {{"importCSV", file, file_new_group, "Import Spreadsheet (CSV)…", "Ctrl+Shift+I"}},
+    {{"importMarrowind", file, file_new_group, "Import Marrowind Board…", ""}},
+    {{"save", file, 1, "Save", "Ctrl+S"}},
+    {{"duplicate", file, 1, "Duplicate", "Ctrl+Shift+S"}},
+    {{"rename", file, 1, "Rename…", ""}},
+    {{"moveTo", file, 1, "Move To…", ""}},
+    {{"revert", file, 1, "Revert to Saved", ""}},
+    {{"exportBoardPDF", file, file_export_group, "Export Board Summary PDF…", "Ctrl+E"}},
+    {{"exportClientPDF", file, file_export_group, "Export Client Status Report…", ""}},
+    {{"exportGrantsCSV", file, file_export_group, "Export Grants Spreadsheet (CSV)…", ""}},
+    {{"exportCalendar", file, file_export_group, "Export Calendar (.ics)…", "Ctrl+Shift+E"}},
+    {{"addToCalendar", file, file_export_group, "Add Deadlines to Calendar…", ""}},
+    {{"exportMinutes", file, file_export_group, "Export Minutes PDF…", "Ctrl+Alt+E"}},
+    {{"exportAgenda", file, file_export_group, "Export Agenda PDF…", ""}},
+    {{"exportNotice", file, file_export_group, "Export Meeting Notice PDF…", ""}},
+    {{"exportMeetingCalendar", file, file_export_group, "Add Meeting to Calendar (.ics)…", ""}},
+    {{"exportActionsCSV", file, file_export_group, "Export Action Items (CSV)…", ""}},
+    {{"exportHandOff", file, file_export_group, "Export Hand-off Bundle…", ""}},
+    {{"printBoard", file, file_print_group, "Print Board Summary…", "Ctrl+P"}, nullptr, nullptr, shows_no_meeting},
+    {{"printMinutes", file, file_print_group, "Print Minutes…", "Ctrl+P"}, nullptr, nullptr, shows_meeting},
+    {{"closeWindow", file, 4, "Close Window", "Ctrl+W"}, [](CommandTarget& target) { target.close_window(); }},
+    {{"quit", file, 4, "Quit Quillfern", "Ctrl+Q"}, [](CommandTarget& target) { target.quit(); }},
+    {{"undo", edit, 0, "Undo", "Ctrl+Z"}},
+    {{"redo", edit, 0, "Redo", "Ctrl+Shift+Z"}},
+    {{"cut", edit, 1, "Cut", "Ctrl+X"}},
+    {{"copy", edit, 1, "Copy", "Ctrl+C"}},
+    {{"paste", edit, 1, "Paste", "Ctrl+V"}},
+    {{"selectAll", edit, 1, "Select All", "Ctrl+A"}},
+    {{"find", edit, 2, "Find a Grant or Funder", "Ctrl+F"}},
+    {{"settings", edit, 3, "Settings…", "Ctrl+,"}},
+    {{"addFiles", grant, 0, "Add Files…", "Ctrl+Alt+A"}},
+    {{"generateReports", grant, 0, "Generate Reports", "Ctrl+Alt+G"}},
+    {{"askBoard", grant, 0, "Ask the Board…", ""}},
+    {{"deleteGrant", grant, 1, "Delete Grant…", ""}},
+    {{"agendaTab", meeting, 0, "Agenda", "Ctrl+Alt+1"}},
+    {{"liveTab", meeting, 0, "Run Meeting", "Ctrl+Alt+2"}},
+    {{"minutesTab", meeting, 0, "Minutes", "Ctrl+Alt+3"}},
+    {{"callToOrder", meeting, 1, "Call to Order", ""}},
+    {{"adjourn", meeting, 1, "Adjourn", ""}},
+    {{"showToday", go, 0, "Today", "Ctrl+1"}, [](CommandTarget& target) { target.show_page(SidebarItem::today); },
+        shows_document},
+    {{"showPipeline", go, 0, "Pipeline", "Ctrl+2"}},
+    {{"showCalendar", go, 0, "Calendar", "Ctrl+3"}},
+    {{"showReports", go, 0, "Reports", "Ctrl+4"}},
+    {{"showGrants", go, 0, "All Grants", "Ctrl+5"}},
+    {{"showFunders", go, 0, "Funders", "Ctrl+6"}},
+    {{"showBoardOverview", go, 1, "Board Overview", "Ctrl+7"}},
+    {{"showActionItems", go, 1, "Action Items", "Ctrl+8"}},
+    {{"showMotions", go, 1, "Motions", ""}},
+    {{"showMinuteBook", go, 1, "Minute Book", ""}},
+    {{"showMembers", go, 1, "Board & Members", ""}},
+    {{"showPeople", go, 2, "People", "Ctrl+9"}},
+    {{"showOrganization", go, 2, "Organization", "Ctrl+0"}},
+    {{"portfolio", window, 0, "Portfolio", "Ctrl+Shift+P"}},
+    {{"minimize", window, 1, "Minimize", "Ctrl+M"}, [](CommandTarget& target) { target.minimize(); }},
+    {{"toggleSidebar", window, 1, "Show or Hide the Sidebar", "F9"},
+        [](CommandTarget& target) { target.toggle_sidebar(); }, shows_document},
+    {{"helpReportingDates", help, 0, "Reporting Dates", ""}},
+    {{"helpMotions", help, 0, "Motions and Votes", ""}},
+    {{"helpImport", help, 0, "Importing a Spreadsheet", ""}},
+    {{"helpLimits", help, 0, "What Quillfern Doesn’t Do", ""}},
+    {{"emailSupport", help, 1, "Email Support", ""}},
+    {{"checkForUpdates", help, 2, "Check for Updates…", ""}},
+    {{"about", help, 2, "About Quillfern", ""}, [](CommandTarget& target) { target.show_about(); }},
+});
+
+constexpr auto rows_of_table = [] {
+    std::array<CommandRow, table.size()> rows{};
+    for (std::size_t i = 0; i < table.size(); ++i)
+        rows[i] = table[i].row;
+    return rows;
+}();
+
+} // namespace
+
+std::span<const Command> commands()
+{
+    return table;
+}
+
+std::span<const CommandRow> command_rows()
+{
+    return rows_of_table;
+}
+
+const Command* find_command(std::string_view id)
+{
+    const auto found =
+        std::find_if(table.begin(), table.end(), [id](const Command& command) { return command.row.id == id; });
+    return found == table.end() ? nullptr : &*found;
+}
+
+bool is_enabled(const Command& command, const CommandState& state)
+{
+    return command.act && (!command.can_act || command.can_act(state));
+}
+
+bool is_offered(const Command& command, const CommandState& state)
+{
+    return !command.is_offered || command.is_offered(state);
+}
+
+} // namespace quillfern::app

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "app/sidebar_item.h"
+#include "desktop/command.h"
+
+#include <span>
+#include <string_view>
+
+namespace quillfern::app {
+
+/// What a command needs to know to decide whether it can act.
+struct CommandState {
+    bool hasDocument = false; ///< the window shows a document
+    bool showsMeeting = false; ///< the board's workspace shows a meeting
+
+    friend bool operator==(const CommandState&, const CommandState&) = default;
+};
+
+/// What the commands act on: the window in which they were given, and the program behind it.
+class CommandTarget {
+public:
+    virtual void choose_file() = 0;
+    virtual void open_sample() = 0;
+    virtual void close_window() = 0;
+    virtual void quit() = 0;
+    virtual void minimize() = 0;
+    virtual void show_page(SidebarItem page) = 0;
+    virtual void toggle_sidebar() = 0;
+    virtual void show_about() = 0;
+
+protected:
+    ~CommandTarget() = default;
+};
+
+struct Command {
+    using Condition = bool (*)(const CommandState& state);
+
+    desktop::CommandRow row;
+    void (*act)(CommandTarget& target) = nullptr; ///< null while nothing can do it
+    Condition can_act = nullptr; ///< null: whenever there is an `act`
+    Condition is_offered = nullptr; ///< null: always; a command that is not offered is not in the menu
+};
+
+/// The groups of the File menu that the tool bar offers too.
+inline constexpr int file_new_group = 0;
+inline constexpr int file_export_group = 2;
+inline constexpr int file_print_group = 3;
+
+/// Every command of the menu bar, in the menus' order.
+std::span<const Command> commands();
+
+/// The rows alone, in the same order.
+std::span<const desktop::CommandRow> command_rows();
+
+/// Null when no command has the id.
+const Command* find_command(std::string_view id);
+
+/// A command that cannot act is shown, but disabled.
+bool is_enabled(const Command& command, const CommandState& state);
+
+/// Printing is one place in the menu and one shortcut, whatever there is to print.
+bool is_offered(const Command& command, const CommandState& state);
+
+} // namespace quillfern::app

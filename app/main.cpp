@@ -1,0 +1,70 @@
+#include "app/application.h"
+#include "app/first_paint.h"
+#include "app/options.h"
+#include "desktop/focus_ring.h"
+#include "desktop/icons.h"
+#include "desktop/theme.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+using namespace quillfern;
+
+void name_program()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("quillfern"));
+    QCoreApplication::setApplicationName(QStringLiteral("quillfern"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLFERN_VERSION));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillfern"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.harrowgate.quillfern"));
+}
+
+int answer_without_window(const app::Options& options)
+{
+    std::fputs(options.text.c_str(), options.exit_status == 0 ? stdout : stderr);
+    return options.exit_status;
+}
+
+void open_what_was_asked_for(app::Application& program, const app::Options& options)
+{
+    for (const QString& file : options.files)
+        program.open(file, nullptr);
+    if (options.sample)
+        program.open_sample();
+    if (options.files.isEmpty() && !options.sample)
+        program.show_start();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    name_program();
+    const app::Options early = app::read_options(app::arguments_of(argc, argv), app::Strictness::lenient);
+    if (!early.text.empty())
+        return answer_without_window(early);
+
+    // The menu bar stands in its window; asking the desktop for another place would cost a round trip at every start.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QApplication application(argc, argv); // takes the toolkit's own options out of the arguments
+    const app::Options options = app::read_options(QCoreApplication::arguments(), app::Strictness::strict);
+    if (!options.text.empty())
+        return answer_without_window(options);
+
+    desktop::Theme theme(application, desktop::scheme_choice(options.scheme));
+    desktop::FocusRing focus_ring(&application);
+    app::Application program(options.clock());
+    // What no eye misses at once waits until the first window is on the screen.
+    app::FirstPaint::after(program, [&] {
+        if (options.exit_after_paint)
+            std::_Exit(0); // what comes after the first paint is not to be measured
+        QGuiApplication::setWindowIcon(desktop::application_icon());
+        theme.follow_portal();
+    });
+    open_what_was_asked_for(program, options);
+    return QApplication::exec();
+}

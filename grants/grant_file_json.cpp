@@ -52,6 +52,8 @@ std::optional<NewerFormat> newer_format(const GrantFile& file)
     return std::nullopt;
 }
 
+} // namespace
+
 GrantFile in_current_format(GrantFile file)
 {
     file.formatVersion = GrantFile::current_format;
@@ -59,8 +61,6 @@ GrantFile in_current_format(GrantFile file)
         file.board = file.board.with([](board::Board& older) { older.formatVersion = board::Board::current_format; });
     return file;
 }
-
-} // namespace
 
 Result<GrantFileRead, GrantFileError> read_grant_file(std::string json, const FreshValues& fresh)
 {

@@ -21,9 +21,12 @@ struct GrantFileRead {
 using GrantFileError = std::variant<ReadError, NewerFormat>;
 
 /// Decodes the text of "Quillfern.json". Nothing is opened by half: a malformed text, a value of a wrong type, a bad
-/// date, amount or case anywhere refuses the whole; only the profile and the board are tolerant key by key. `json` may be changed
-/// (room for the parser's padding).
+/// date, amount or case anywhere refuses the whole; only the profile and the board are tolerant key by key. `json` may
+/// be changed (room for the parser's padding).
 Result<GrantFileRead, GrantFileError> read_grant_file(std::string json, const FreshValues& fresh);
+
+/// The file as it is written, and reads back: its format and its board's are the current ones.
+GrantFile in_current_format(GrantFile file);
 
 /// The text of "Quillfern.json" in the current format: pretty-printed, keys sorted, the same bytes for equal files.
 std::string write_grant_file(const GrantFile& file);

@@ -1,6 +1,7 @@
 #include "grants/org_package.h"
 
 #include "grants/grant_file_json.h"
+#include "grants/read_back.h"
 #include "platform/clock.h"
 #include "platform/package_reader.h"
 #include "platform/random_uuid.h"
@@ -47,16 +48,6 @@ PackageError package_error(const GrantFileError& error)
     if (const auto* newer = std::get_if<NewerFormat>(&error))
         return {Reason::newerFormat, "Format version " + std::to_string(newer->formatVersion)};
     return {Reason::unreadable, std::get<ReadError>(error).text()};
-}
-
-/// Whether the text gives the same records back. Only then may it replace what is on the disk.
-bool reads_back(const std::string& text, const GrantFile& file)
-{
-    auto read = read_grant_file(text, fresh_values());
-    if (!read || !read->notes.empty())
-        return false;
-    read->file.formatVersion = file.formatVersion; // written as the current one, whatever was read
-    return read->file == file;
 }
 
 platform::PackageContents contents_of(const OrgPackage& package)

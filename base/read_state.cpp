@@ -44,9 +44,12 @@ void ReadState::locate_error(std::string_view text)
     error_.column = 1 + before.size() - line_start;
 }
 
-void ReadState::forgive(std::string_view instead)
+void ReadState::forgive(std::size_t depth, std::string_view instead)
 {
-    notes.push_back(error_.text() + "; " + std::string(instead));
+    leave_to(depth);
+    const std::string here = path_text();
+    notes.push_back(error_.path == here ? error_.text() + "; " + std::string(instead)
+                                        : here + ": " + std::string(instead) + " (" + error_.text() + ")");
     error_ = {};
     error_place_ = nullptr;
 }

@@ -1,23 +1,18 @@
 #pragma once
 
-#include "base/case_names.h"
 #include "base/fields.h"
-#include "base/read_state.h"
-#include "base/shared.h"
+#include "base/value_readers.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
-#include <variant>
-#include <vector>
 
 /// Reads records by their field lists from any source of values.
 ///
@@ -28,39 +23,6 @@
 /// offers `is(name)`, `is_before(name)`, `text()` and `place()`.
 namespace quillfern {
 
-enum class ValueKind { null, boolean, number, string, array, object };
-
-constexpr std::string_view kind_name(ValueKind kind)
-{
-    constexpr std::array<std::string_view, 6> words{"null", "a boolean", "a number", "a text", "a list", "an object"};
-    return words[static_cast<std::size_t>(kind)];
-}
-
-/// A value that files hold as text. A specialisation has `static std::optional<T> parse(std::string_view)` and
-/// `static std::string problem(std::string_view)`, the message for a text that does not parse; it may have
-/// `static std::optional<T> parse_number(std::string_view)` when a JSON number is read as well, and
-/// `static constexpr std::string_view other_kind`, the message for a value of any other kind.
-template <class T>
-struct TextValue;
-
-template <class T>
-concept HasTextValue = requires(std::string_view text)
-{
-    TextValue<T>::parse(text);
-};
-
-template <>
-struct TextValue<Uuid> {
-    static std::optional<Uuid> parse(std::string_view text) { return Uuid::parse(text); }
-    static std::string problem(std::string_view text) { return "Not a UUID: " + std::string(text); }
-};
-
-template <>
-struct TextValue<Instant> {
-    static std::optional<Instant> parse(std::string_view text) { return Instant::parse(text); }
-    static std::string problem(std::string_view text) { return "Not an ISO 8601 date:" + std::string(text); }
-};
-
 /// Which keys of a record a read has found readable.
 template <class T>
 struct SeenKeys {
@@ -69,162 +31,7 @@ struct SeenKeys {
     bool has(std::string_view key) const { return bits >> fields<T>.index_of(key) & 1; }
 };
 
-template <class Value, class T>
-bool read(Value& value, T& out);
-
 namespace detail {
-
-template <class T>
-inline constexpr bool is_optional = false;
-template <class T>
-inline constexpr bool is_optional<std::optional<T>> = true;
-template <class T>
-inline constexpr bool is_vector = false;
-template <class T>
-inline constexpr bool is_vector<std::vector<T>> = true;
-template <class T>
-inline constexpr bool is_shared = false;
-template <class T>
-inline constexpr bool is_shared<Shared<T>> = true;
-template <class T>
-inline constexpr bool is_variant = false;
-template <class... T>
-inline constexpr bool is_variant<std::variant<T...>> = true;
-template <class T>
-inline constexpr bool is_map = false;
-template <class T>
-inline constexpr bool is_map<std::map<std::string, T>> = true;
-
-template <class Value>
-bool wrong_kind(Value& value, std::string_view expected)
-{
-    return value.state().fail(
-        value.place(), "Expected " + std::string(expected) + ", found " + std::string(kind_name(value.kind())));
-}
-
-template <class Value, class T>
-bool read_text_value(Value& value, T& out)
-{
-    if (value.kind() == ValueKind::string) {
-        std::string_view text;
-        if (!value.text(text))
-            return false;
-        if (const auto parsed = TextValue<T>::parse(text)) {
-            out = *parsed;
-            return true;
-        }
-        return value.state().fail(value.place(), TextValue<T>::problem(text));
-    }
-    if constexpr (requires { TextValue<T>::parse_number(std::string_view()); }) {
-        if (value.kind() == ValueKind::number) {
-            const std::string_view number = value.number_text();
-            if (const auto parsed = TextValue<T>::parse_number(number)) {
-                out = *parsed;
-                return true;
-            }
-            return value.state().fail(value.place(), TextValue<T>::problem(number));
-        }
-    }
-    if constexpr (requires { TextValue<T>::other_kind; })
-        return value.state().fail(value.place(), std::string(TextValue<T>::other_kind));
-    return wrong_kind(value, "a text");
-}
-
-template <class Value, NamedEnum E>
-bool read_case(Value& value, E& out)
-{
-    if (value.kind() != ValueKind::string)
-        return wrong_kind(value, "a text");
-    std::string_view text;
-    if (!value.text(text))
-        return false;
-    if (const std::optional<E> named = case_named<E>(text)) {
-        out = *named;
-        return true;
-    }
-    return value.state().fail(value.place(), "Unknown value: " + std::string(text));
-}
-
-/// An enumeration with payloads is an object with one key, the case's name; the value under it holds the payload.
-template <class Value, class... Case>
-bool read_variant(Value& value, std::variant<Case...>& out)
-{
-    using Variant = std::variant<Case...>;
-    if (value.kind() != ValueKind::object)
-        return wrong_kind(value, "an object");
-    std::size_t count = 0;
-    const bool ok = value.each_member([&](auto key, Value member) {
-        const std::string_view name = key.text();
-        if (++count > 1)
-            return member.skip();
-        bool known = false;
-        bool fine = true;
-        const auto try_case = [&]<std::size_t I>() {
-            if (known || case_names<Variant>[I] != name)
-                return;
-            known = true;
-            std::variant_alternative_t<I, Variant> payload{};
-            value.state().enter(case_names<Variant>[I]);
-            fine = read(member, payload);
-            if (fine) {
-                value.state().leave();
-                out = std::move(payload);
-            }
-        };
-        [&]<std::size_t... I>(std::index_sequence<I...>)
-        {
-            (try_case.template operator()<I>(), ...);
-        }
-        (std::index_sequence_for<Case...>());
-        if (!known)
-            return value.state().fail(value.place(), "Unknown value: " + std::string(name));
-        return fine;
-    });
-    if (ok && count != 1)
-        return value.state().fail(value.place(), "Invalid number of keys found, expected one.");
-    return ok;
-}
-
-template <class Value, class T>
-bool read_list(Value& value, std::vector<T>& out, bool keep_going)
-{
-    if (value.kind() != ValueKind::array)
-        return wrong_kind(value, "a list");
-    std::size_t index = 0;
-    return value.each_element([&](Value element) {
-        ReadState& state = value.state();
-        const std::size_t depth = state.depth();
-        state.enter(index++);
-        if (!read(element, out.emplace_back())) {
-            out.pop_back();
-            if (!keep_going || state.document_failed())
-                return false;
-            state.forgive("left out");
-            element.abandon();
-        }
-        state.leave_to(depth);
-        return true;
-    });
-}
-
-template <class Value, class T>
-bool read_map(Value& value, std::map<std::string, T>& out)
-{
-    if (value.kind() != ValueKind::object)
-        return wrong_kind(value, "an object");
-    return value.each_member([&](auto key, Value member) {
-        const auto [at, is_new] = out.try_emplace(std::string(key.text()));
-        ReadState& state = value.state();
-        const std::size_t depth = state.depth();
-        state.enter(at->first);
-        if (!is_new)
-            return state.fail(member.place(), "Duplicate key", Failing::document);
-        if (!read(member, at->second))
-            return false;
-        state.leave_to(depth);
-        return true;
-    });
-}
 
 /// Keys that a record does not know, remembered so that a duplicate is noticed.
 class OtherKeys {
@@ -264,7 +71,7 @@ bool read_field(Value& value, T& record, SeenKeys<T>& seen)
         if (state.document_failed())
             return false;
         member = std::move(T{}.*field.member);
-        state.forgive("the default stands in for it");
+        state.forgive(depth + 1, "the default stands in for it");
         value.abandon();
         state.leave_to(depth);
         return true;

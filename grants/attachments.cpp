@@ -102,12 +102,14 @@ Result<Shared<std::string>, platform::BlobError> read_attachment(
 OrgPackage with_logo(OrgPackage package, std::string png)
 {
     package.logo = platform::Blob(std::move(png));
+    package.file.org.logoFile = logo_file_name;
     return package;
 }
 
 OrgPackage without_logo(OrgPackage package)
 {
     package.logo.reset();
+    package.file.org.logoFile.reset();
     return package;
 }
 

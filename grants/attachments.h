@@ -8,8 +8,8 @@
 /// Files kept with grants, and the logo: edits from one package value to the next.
 namespace quillfern::grants {
 
-constexpr std::int64_t largest_attachment =
-    104'857'600; ///< 100 MiB, so that the document stays easy to move and back up
+/// In bytes: 100 MiB, so that the document stays easy to move and back up.
+constexpr std::int64_t largest_attachment = 104'857'600;
 
 enum class AttachmentError { tooBig, empty, noSuchGrant };
 

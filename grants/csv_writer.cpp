@@ -114,6 +114,8 @@ std::string CSVWriter::document(const std::vector<CSVRow>& rows)
 {
     CSVBuilder document;
     document.reserve(likely_size(rows));
+    if (rows.empty()) // rows are joined by line breaks and one ends the file
+        document.end_row();
     for (const CSVRow& row : rows) {
         for (const std::string& cell : row)
             document.add_cell(cell);

@@ -79,7 +79,8 @@ Day today_here();
 /// The date there at a moment.
 Day day_here(Instant instant);
 
-/// The moment at which the user's own clock shows that time on that day; noon in UTC when it never does. `hour` is 0 to
+/// The moment at which the user's own clock shows that time on that day; past the gap when a change to
+/// daylight-saving time skips it; noon in UTC when the system cannot tell. `hour` is 0 to
 /// 23, `minute` 0 to 59.
 Instant instant_here(const Day& day, int hour, int minute);
 

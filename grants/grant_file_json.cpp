@@ -23,9 +23,15 @@ void after_read(Grant& grant, const SeenKeys<Grant>& seen, ReadState& state)
         grant.modified = state.fresh.now;
 }
 
-void after_read(OrgProfile& profile, const SeenKeys<OrgProfile>&, ReadState&)
+void after_read(OrgProfile& profile, const SeenKeys<OrgProfile>&, ReadState& state)
 {
-    profile.fiscalYearStartMonth = std::clamp<std::int64_t>(profile.fiscalYearStartMonth, 1, 12);
+    const std::int64_t month = std::clamp<std::int64_t>(profile.fiscalYearStartMonth, 1, 12);
+    if (month == profile.fiscalYearStartMonth)
+        return;
+    state.enter("fiscalYearStartMonth");
+    state.note(std::to_string(profile.fiscalYearStartMonth) + " is no month; read as " + std::to_string(month));
+    state.leave();
+    profile.fiscalYearStartMonth = month;
 }
 
 void after_read(GrantFile& file, const SeenKeys<GrantFile>& seen, ReadState& state)
@@ -46,9 +52,9 @@ namespace {
 std::optional<NewerFormat> newer_format(const GrantFile& file)
 {
     if (file.formatVersion > GrantFile::current_format)
-        return NewerFormat{file.formatVersion};
+        return NewerFormat{"Format version", file.formatVersion};
     if (file.board->formatVersion > board::Board::current_format)
-        return NewerFormat{file.board->formatVersion};
+        return NewerFormat{"Board format version", file.board->formatVersion};
     return std::nullopt;
 }
 

@@ -10,6 +10,7 @@ namespace quillfern::grants {
 
 /// A file, or the board in it, whose format version is newer than this program's; nothing of it is used.
 struct NewerFormat {
+    std::string_view what; ///< "Format version" or "Board format version"
     std::int64_t formatVersion = 0;
 };
 

@@ -146,12 +146,16 @@ private:
         lines_.line(stamp_);
     }
 
+    /// An all-day event ends before the next day. The calendar's last day has none that its format can spell; without
+    /// an end, an event that starts on a date lasts that day (RFC 5545, section 3.6.1).
     void append_span(const Day& day)
     {
         const Day next = day.plus_days(1);
         lines_.begin("DTSTART;VALUE=DATE:");
         append_date(out_, day.year, day.month, day.day);
         lines_.end();
+        if (next > last_day_of_files)
+            return;
         lines_.begin("DTEND;VALUE=DATE:");
         append_date(out_, next.year, next.month, next.day);
         lines_.end();

@@ -17,7 +17,7 @@ using Reason = PackageError::Reason;
 const platform::PackageLayout& layout()
 {
     static const platform::PackageLayout names{
-        .mainFile = "Quillfern.json", .attachmentsFolder = "Attachments", .logoFile = "Logo.png"};
+        .mainFile = "Quillfern.json", .attachmentsFolder = "Attachments", .logoFile = logo_file_name};
     return names;
 }
 
@@ -46,7 +46,7 @@ PackageError package_error(const platform::PackageReadError& error)
 PackageError package_error(const GrantFileError& error)
 {
     if (const auto* newer = std::get_if<NewerFormat>(&error))
-        return {Reason::newerFormat, "Format version " + std::to_string(newer->formatVersion)};
+        return {Reason::newerFormat, std::string(newer->what) + " " + std::to_string(newer->formatVersion)};
     return {Reason::unreadable, std::get<ReadError>(error).text()};
 }
 

@@ -23,6 +23,8 @@
 /// In memory it is one value. Edits give a new value; reading and writing are the only things that touch the disk.
 namespace quillfern::grants {
 
+constexpr const char* logo_file_name = "Logo.png";
+
 using AttachmentBytes = std::map<std::string, platform::Blob, std::less<>>; ///< by stored name
 
 struct OrgPackage {

@@ -31,13 +31,13 @@ std::optional<Day> resolve(const DateRule& rule, const Grant& grant)
         return fixed->day;
     const auto& offset = std::get<OffsetFrom>(rule);
     const auto anchor = anchor_day(offset.from, grant);
-    return anchor ? std::optional(anchor->plus_days(offset.days)) : std::nullopt;
+    return anchor ? std::optional(within_files(anchor->plus_days(offset.days))) : std::nullopt;
 }
 
 Day draft_day(const ReportPeriod& report, const FileSettings& settings)
 {
     const std::int64_t lead = report.draftLeadDays.value_or(settings.draftLeadDays);
-    return report.due.plus_days(-std::max(lead, -std::numeric_limits<std::int64_t>::max()));
+    return within_files(report.due.plus_days(-std::max(lead, -std::numeric_limits<std::int64_t>::max())));
 }
 
 } // namespace quillfern::grants

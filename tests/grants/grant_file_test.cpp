@@ -291,6 +291,8 @@ TEST(GrantFileJson, RefusalsNameWhatAndWhere)
             "grants[0].payments[0].amount: Missing"},
         {with_grant(R"("milestones": [{"rule": {"on": {"_0": "2026-01-01"}, "offset": {}}}])"),
             "Invalid number of keys found, expected one."},
+        {with_grant(R"("milestones": [{"rule": {"after": {}, "on": {"_0": "soon"}}}])"),
+            "grants[0].milestones[0].rule: Invalid number of keys found, expected one."},
         {with_grant(R"("milestones": [{"rule": {}}])"), "Invalid number of keys found, expected one."},
         {with_grant(R"("milestones": [{"rule": {"after": {}}}])"), "Unknown value: after"},
         {with_grant(R"("title": "a", "title": "a")"), "Duplicate key: title"},

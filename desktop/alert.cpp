@@ -25,16 +25,40 @@ TextLabel* wrapped(const QString& text, TextStyle style, Role role, QWidget* par
 
 } // namespace
 
-Alert::Alert(const AlertWords& words, const QString& icon_name, QWidget* parent) : Sheet(parent)
+Alert::Alert(const AlertWords& words, const QString& icon_name, const QString& destructive_verb, QWidget* parent)
+    : Sheet(parent)
 {
     setObjectName(QStringLiteral("alert"));
     setWindowTitle(QStringLiteral("Quillfern"));
     setAccessibleName(words.title);
     setAccessibleDescription(words.message);
-    lay_out(words, icon_name);
+    lay_out(words, icon_name, make_buttons(destructive_verb));
 }
 
-void Alert::lay_out(const AlertWords& words, const QString& icon_name)
+QLayout* Alert::make_buttons(const QString& destructive_verb)
+{
+    const bool asks = !destructive_verb.isEmpty();
+    auto* row = new QHBoxLayout;
+    row->setSpacing(scaled(10));
+    row->addStretch();
+    auto* safe = new QPushButton(asks ? QStringLiteral("Cancel") : QStringLiteral("OK"), this);
+    set_button_kind(safe, asks ? ButtonKind::normal : ButtonKind::primary);
+    safe->setMinimumWidth(scaled(84));
+    safe->setDefault(true);
+    safe->setFocus();
+    connect(safe, &QPushButton::clicked, this, asks ? &QDialog::reject : &QDialog::accept);
+    row->addWidget(safe);
+    if (asks) {
+        auto* verb = new QPushButton(destructive_verb, this);
+        set_button_kind(verb, ButtonKind::destructive);
+        verb->setAutoDefault(false);
+        connect(verb, &QPushButton::clicked, this, &QDialog::accept);
+        row->addWidget(verb);
+    }
+    return row;
+}
+
+void Alert::lay_out(const AlertWords& words, const QString& icon_name, QLayout* buttons)
 {
     auto* message = wrapped(words.message, TextStyle::body, Role::text2, this);
     message->setObjectName(QStringLiteral("alertMessage"));
@@ -52,26 +76,28 @@ void Alert::lay_out(const AlertWords& words, const QString& icon_name)
     top->addWidget(new IconTile(icon_name, scaled(34), IconTile::Tone::danger, this), 0, Qt::AlignTop);
     top->addLayout(text);
 
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    set_button_kind(ok, ButtonKind::primary);
-    ok->setMinimumWidth(scaled(84));
-    ok->setDefault(true);
-    ok->setFocus();
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(scaled(22), scaled(20), scaled(20), scaled(18));
     all->setSpacing(scaled(20));
     all->setSizeConstraint(QLayout::SetFixedSize);
     all->addLayout(top);
-    all->addWidget(ok, 0, Qt::AlignRight);
+    all->addLayout(buttons);
 }
 
 Alert* show_alert(const AlertWords& words, QWidget* parent, std::function<void()> closed)
 {
-    auto* alert = new Alert(words, QStringLiteral("warning"), parent);
+    auto* alert = new Alert(words, QStringLiteral("warning"), {}, parent);
     if (closed)
         QObject::connect(alert, &QDialog::finished, alert, [closed = std::move(closed)] { closed(); });
+    alert->open();
+    return alert;
+}
+
+Alert* ask_before(
+    const AlertWords& words, const QString& destructive_verb, QWidget* parent, std::function<void()> confirmed)
+{
+    auto* alert = new Alert(words, QStringLiteral("warning"), destructive_verb, parent);
+    QObject::connect(alert, &QDialog::accepted, alert, [confirmed = std::move(confirmed)] { confirmed(); });
     alert->open();
     return alert;
 }

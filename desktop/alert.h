@@ -21,14 +21,20 @@ struct AlertWords {
 class Alert : public Sheet {
     Q_OBJECT
 public:
-    /// With one button, "OK". `parent` may be null when no window is open.
-    Alert(const AlertWords& words, const QString& icon_name, QWidget* parent);
+    /// With one button, "OK"; with a verb, with "Cancel" and a button that does what the verb says and cannot be given
+    /// by mistake: it is red and never the default. `parent` may be null when no window is open.
+    Alert(const AlertWords& words, const QString& icon_name, const QString& destructive_verb, QWidget* parent);
 
 private:
-    void lay_out(const AlertWords& words, const QString& icon_name);
+    void lay_out(const AlertWords& words, const QString& icon_name, QLayout* buttons);
+    QLayout* make_buttons(const QString& destructive_verb);
 };
 
 /// Opens an alert that cleans up after itself; `closed` is called once the user has read it.
 Alert* show_alert(const AlertWords& words, QWidget* parent, std::function<void()> closed = {});
+
+/// Asks before something is lost; `confirmed` is called when the user wants it.
+Alert* ask_before(
+    const AlertWords& words, const QString& destructive_verb, QWidget* parent, std::function<void()> confirmed);
 
 } // namespace quillfern::desktop

@@ -43,6 +43,8 @@ void Style::drawPrimitive(
         return;
     case PE_PanelLineEdit:
         return style::draw_field_frame(*option, *painter);
+    case PE_IndicatorCheckBox:
+        return style::draw_check_box(*option, *painter);
     case PE_PanelMenu:
         fill(*painter, option->rect, Role::card);
         return;
@@ -183,6 +185,11 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         return scaled(9);
     case PM_ToolBarSeparatorExtent:
         return scaled(25);
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+        return scaled(20);
+    case PM_CheckBoxLabelSpacing:
+        return scaled(12);
     case PM_FocusFrameHMargin:
     case PM_FocusFrameVMargin:
         return scaled(4);

@@ -55,6 +55,8 @@ QSize tool_button_size(const QStyleOptionToolButton& option);
 void draw_field_frame(const QStyleOption& option, QPainter& painter);
 void draw_combo_box(const QStyleOptionComboBox& option, QPainter& painter);
 
+void draw_check_box(const QStyleOption& option, QPainter& painter);
+
 void draw_menu_bar_item(const QStyleOptionMenuItem& option, QPainter& painter);
 QSize menu_bar_item_size(const QStyleOptionMenuItem& option);
 void draw_menu_item(const QStyleOptionMenuItem& option, QPainter& painter);

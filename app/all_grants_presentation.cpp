@@ -99,10 +99,12 @@ EmptyWords empty_words(Emptiness why, const GrantsFilter& filter, const Found& f
 
 std::string facts(const GrantsFilter& filter, const Found& found)
 {
-    std::string line = grants::fiscal_year_label(filter.fiscalYear) + " · " + count_words(found.grants.size(), "grant");
-    if (found.undated > 0)
-        line += ", " + std::to_string(found.undated) + " without a date";
-    return line + " · ordered by key date";
+    const std::size_t shown = found.grants.size();
+    std::string line = grants::fiscal_year_label(filter.fiscalYear) + " · ";
+    if (shown < found.inYear)
+        line += std::to_string(shown) + " of ";
+    line += count_words(found.inYear, "grant");
+    return found.undated == 0 ? line : line + ", " + std::to_string(found.undated) + " without a date";
 }
 
 } // namespace
@@ -139,6 +141,7 @@ AllGrantsPresentation all_grants_presentation(
         awarded += award_value(grant);
     }
     page.facts = facts(filter, found);
+    page.order = found.grants.empty() ? "" : "ordered by key date";
     page.count = count_words(found.grants.size(), "grant");
     page.asked = amount_text(asked, file);
     page.awarded = amount_text(awarded, file);

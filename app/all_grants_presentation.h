@@ -43,7 +43,8 @@ enum class Emptiness { none, noGrants, noneInYear, noneInStage, noMatch };
 /// What the All Grants page shows: the grants of one fiscal year by key day. Grants that no date places in a year are
 /// shown in every year, first, so that a new grant is never out of sight.
 struct AllGrantsPresentation {
-    std::string facts; ///< FY2027 · 13 grants · ordered by key date
+    std::string facts; ///< FY2027 · 13 grants; FY2027 · 3 of 13 grants
+    std::string order; ///< ordered by key date; empty when there is nothing to order
     std::vector<GrantRow> rows;
     std::string count; ///< 13 grants
     std::string asked; ///< the sums of the rows

@@ -95,6 +95,10 @@ void AppWindow::show_page(SidebarItem) { }
 
 void AppWindow::toggle_sidebar() { }
 
+void AppWindow::find() { }
+
+void AppWindow::export_file(ExportKind) { }
+
 void AppWindow::show_about()
 {
     (new AboutDialog(this))->open();

@@ -28,6 +28,8 @@ public:
     void minimize() override;
     void show_page(SidebarItem page) override;
     void toggle_sidebar() override;
+    void find() override;
+    void export_file(ExportKind kind) override;
     void show_about() override;
 
 protected:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/export_kind.h"
 #include "app/sidebar_item.h"
 #include "desktop/command.h"
 
@@ -26,6 +27,8 @@ public:
     virtual void minimize() = 0;
     virtual void show_page(SidebarItem page) = 0;
     virtual void toggle_sidebar() = 0;
+    virtual void find() = 0;
+    virtual void export_file(ExportKind kind) = 0;
     virtual void show_about() = 0;
 
 protected:

@@ -1,12 +1,19 @@
 #include "app/main_window.h"
 
+#include "app/all_grants_page.h"
 #include "app/application.h"
+#include "app/award_money.h"
+#include "app/file_export.h"
+#include "app/fiscal_year_choice.h"
+#include "app/funders_page.h"
+#include "app/pipeline_page.h"
 #include "app/sidebar.h"
 #include "app/today_page.h"
 #include "app/window_layout.h"
 #include "app/window_tool_bar.h"
 #include "desktop/menu_builder.h"
 #include "desktop/surface.h"
+#include "desktop/toast.h"
 #include "desktop/type.h"
 
 #include <QBoxLayout>
@@ -65,8 +72,9 @@ MainWindow::MainWindow(Application& application, std::unique_ptr<Document> docum
     tool_bar_->update_buttons();
     connect(&application.day_watch(), &DayWatch::day_changed, this,
         [this](const grants::Day& today) { model_.edit([&](WindowState& state) { state.today = today; }); });
-    connect(&model_, &WindowModel::changed, this, &MainWindow::redraw);
+    connect(&model_, &WindowModel::changed, this, &MainWindow::take_state);
     connect(sidebar_, &Sidebar::chosen, this, &MainWindow::show_page);
+    connect_tool_bar();
     const auto on_key = [this](const QKeySequence& keys, int direction) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, direction] { cycle_panes(direction); });
     };
@@ -97,15 +105,101 @@ void MainWindow::lay_out()
     setMinimumSize(960, 600);
 }
 
+void MainWindow::connect_tool_bar()
+{
+    connect(tool_bar_, &WindowToolBar::fiscal_year_chosen, this,
+        [this](qint64 year) { model_.edit([year](WindowState& state) { state.fiscalYear = year; }); });
+    connect(tool_bar_, &WindowToolBar::search_changed, this, [this](const QString& text) {
+        model_.edit([&text](WindowState& state) {
+            state.search = text.toStdString();
+            if (!text.isEmpty())
+                state.selection = SidebarItem::grants;
+        });
+    });
+    connect(tool_bar_, &WindowToolBar::search_left, this, &MainWindow::focus_page);
+}
+
 void MainWindow::redraw()
 {
     const WindowState& state = model_.state();
     setWindowTitle(document_->title() + QStringLiteral("[*] — Quillfern"));
     sidebar_->set_logo(logo_bytes(document_->package()));
     sidebar_->show_presentation(sidebar_presentation(document_->file(), state.today));
+    show_state();
+}
+
+void MainWindow::take_state(const WindowState& before, const WindowState& after)
+{
+    if (before.today != after.today)
+        return redraw();
+    const bool keyboard_on_page = focusWidget() && pages_->isAncestorOf(focusWidget());
+    show_state();
+    if (before.selection != after.selection && keyboard_on_page)
+        focus_page();
+}
+
+void MainWindow::show_state()
+{
+    const WindowState& state = model_.state();
     sidebar_->select(state.selection);
-    tool_bar_->show_fiscal_year(QString::fromStdString(grants::fiscal_year_label(state.fiscalYear)));
-    today_page_->show_presentation(today_presentation(document_->file(), state.today));
+    tool_bar_->show_fiscal_years(fiscal_year_choice(document_->file(), state.today, state.fiscalYear));
+    tool_bar_->show_search(QString::fromStdString(state.search));
+    pages_->setCurrentWidget(show_selected_page());
+}
+
+QWidget* MainWindow::show_selected_page()
+{
+    const WindowState& state = model_.state();
+    const grants::GrantFile& file = document_->file();
+    if (Page* page = page_of(state.selection)) {
+        page->show_file(file, state);
+        return page;
+    }
+    today_page_->show_presentation(today_presentation(file, state.today));
+    today_page_->show_award_money(award_money(file, state.today, state.fiscalYear));
+    return today_page_;
+}
+
+/// Null for the Today page, which is no page like the others yet.
+Page* MainWindow::page_of(SidebarItem item)
+{
+    if (const auto made = other_pages_.find(item); made != other_pages_.end())
+        return made->second;
+    Page* page = nullptr;
+    if (item == SidebarItem::pipeline)
+        page = new PipelinePage(model_, pages_);
+    else if (item == SidebarItem::grants)
+        page = new AllGrantsPage(model_, pages_);
+    else if (item == SidebarItem::funders)
+        page = new FundersPage(model_, pages_);
+    else
+        return nullptr;
+    pages_->addWidget(page);
+    return other_pages_[item] = page;
+}
+
+void MainWindow::focus_page()
+{
+    pages_->currentWidget()->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::find()
+{
+    show_page(SidebarItem::grants);
+    tool_bar_->focus_search();
+}
+
+void MainWindow::export_file(ExportKind kind)
+{
+    start_export(document_->file(), kind, this,
+        [this](const QString& name) { show_toast(QStringLiteral("Saved “%1”.").arg(name)); });
+}
+
+void MainWindow::show_toast(const QString& text)
+{
+    if (!toast_)
+        toast_ = new desktop::Toast(pages_);
+    toast_->show_message(text);
 }
 
 void MainWindow::show_page(SidebarItem page)
@@ -131,6 +225,7 @@ void MainWindow::arrange()
     sidebar_->setMaximumWidth(scaled(strip ? strip_width : most_sidebar_width));
     if (!strip)
         splitter_->setSizes({sidebar_width_, width() - sidebar_width_});
+    today_page_->set_right_column(scaled(layout.rightColumn));
 }
 
 void MainWindow::come_forward()
@@ -154,9 +249,7 @@ void MainWindow::cycle_panes(int direction)
     at = (at + step) % panes.size();
     if (!panes[at]->isVisible())
         at = (at + step) % panes.size();
-    QWidget* target = at == 0 ? tool_bar_->first_button()
-        : at == 1             ? sidebar_->focusProxy()
-                              : today_page_->focusProxy();
+    QWidget* target = at == 0 ? tool_bar_->first_button() : at == 1 ? sidebar_->focusProxy() : pages_->currentWidget();
     target->setFocus(Qt::ShortcutFocusReason);
     setAttribute(Qt::WA_KeyboardFocusChange);
     target->update();

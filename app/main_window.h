@@ -4,13 +4,19 @@
 #include "app/document.h"
 #include "app/window_model.h"
 
+#include <map>
 #include <optional>
 
 class QSplitter;
 class QStackedWidget;
 
+namespace quillfern::desktop {
+class Toast;
+}
+
 namespace quillfern::app {
 
+class Page;
 class Sidebar;
 class TodayPage;
 class WindowToolBar;
@@ -28,6 +34,11 @@ public:
 
     void show_page(SidebarItem page) override;
     void toggle_sidebar() override;
+    void find() override;
+    void export_file(ExportKind kind) override;
+
+    /// A short message over the page.
+    void show_toast(const QString& text);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -35,7 +46,13 @@ protected:
 
 private:
     void lay_out();
+    void connect_tool_bar();
     void redraw();
+    void take_state(const WindowState& before, const WindowState& after);
+    void show_state();
+    QWidget* show_selected_page();
+    Page* page_of(SidebarItem item);
+    void focus_page();
     void arrange();
     void cycle_panes(int direction);
     void restore_placement();
@@ -50,6 +67,8 @@ private:
     Sidebar* sidebar_;
     QStackedWidget* pages_;
     TodayPage* today_page_;
+    std::map<SidebarItem, Page*> other_pages_; ///< made when they are first shown
+    desktop::Toast* toast_ = nullptr;
 };
 
 } // namespace quillfern::app

@@ -1,7 +1,9 @@
 #include "app/today_page.h"
 
+#include "app/agenda_delegate.h"
 #include "app/agenda_list.h"
 #include "app/agenda_model.h"
+#include "app/award_money_card.h"
 #include "desktop/empty_state.h"
 #include "desktop/page_header.h"
 #include "desktop/type.h"
@@ -57,10 +59,14 @@ QWidget* TodayPage::make_scrolled_part()
     auto* content = new QWidget(scroll_);
     list_ = new AgendaList(content);
     list_->setModel(model_);
+    columns_ = new QHBoxLayout;
+    columns_->setSpacing(scaled(20));
+    columns_->addWidget(list_, 1, Qt::AlignTop);
+    columns_->addWidget(make_right_column(content), 0, Qt::AlignTop);
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(
         scaled(28), 0, scaled(28) - scroll_->verticalScrollBar()->sizeHint().width(), scaled(22));
-    column->addWidget(list_);
+    column->addLayout(columns_);
     column->addStretch();
     scroll_->setWidget(content);
     content->setAutoFillBackground(false);
@@ -69,6 +75,34 @@ QWidget* TodayPage::make_scrolled_part()
         scroll_->ensureVisible(place.center().x(), place.center().y(), 0, place.height() / 2 + scaled(40));
     });
     return scroll_;
+}
+
+QWidget* TodayPage::make_right_column(QWidget* parent)
+{
+    right_column_ = new QWidget(parent);
+    award_money_ = new AwardMoneyCard(right_column_);
+    auto* column = new QVBoxLayout(right_column_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(scaled(16));
+    column->addWidget(award_money_);
+    return right_column_;
+}
+
+void TodayPage::set_right_column(int width)
+{
+    const bool beside = width > 0;
+    columns_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    columns_->setAlignment(right_column_, beside ? Qt::AlignTop : Qt::Alignment());
+    columns_->setAlignment(list_, beside ? Qt::AlignTop : Qt::Alignment());
+    right_column_->setMinimumWidth(width);
+    right_column_->setMaximumWidth(beside ? width : QWIDGETSIZE_MAX);
+    // Its first card begins beside the first row of the agenda.
+    right_column_->layout()->setContentsMargins(0, beside ? agenda_heading_height() : 0, 0, 0);
+}
+
+void TodayPage::show_award_money(const AwardMoney& money)
+{
+    award_money_->show_money(money);
 }
 
 void TodayPage::show_presentation(const TodayPresentation& presentation)

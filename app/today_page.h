@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/award_money.h"
 #include "app/today_presentation.h"
 
 #include <QWidget>
 
+class QBoxLayout;
 class QScrollArea;
 class QStackedWidget;
 
@@ -15,6 +17,7 @@ namespace quillfern::app {
 
 class AgendaList;
 class AgendaModel;
+class AwardMoneyCard;
 
 /// The page that says what is due: the agenda in its buckets.
 class TodayPage : public QWidget {
@@ -23,9 +26,14 @@ public:
     explicit TodayPage(QWidget* parent = nullptr);
 
     void show_presentation(const TodayPresentation& presentation);
+    void show_award_money(const AwardMoney& money);
+
+    /// The width of the right column; 0: it goes below the agenda.
+    void set_right_column(int width);
 
 private:
     QWidget* make_scrolled_part();
+    QWidget* make_right_column(QWidget* parent);
     void show_facts(const TodayPresentation& presentation);
 
     desktop::PageHeader* header_;
@@ -33,6 +41,9 @@ private:
     QScrollArea* scroll_ = nullptr;
     AgendaList* list_ = nullptr;
     AgendaModel* model_;
+    QBoxLayout* columns_ = nullptr; ///< the agenda and the right column
+    QWidget* right_column_ = nullptr;
+    AwardMoneyCard* award_money_ = nullptr;
 };
 
 } // namespace quillfern::app

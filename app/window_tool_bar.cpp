@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QShortcut>
 #include <QToolButton>
 
 #include <algorithm>
@@ -62,22 +63,49 @@ WindowToolBar::WindowToolBar(const desktop::WindowMenus& menus, QWidget* parent)
     addWidget(print);
     add_stretch();
 
+    add_fiscal_year();
+    add_search();
+}
+
+void WindowToolBar::add_fiscal_year()
+{
     auto* label = new desktop::TextLabel(QStringLiteral("Fiscal year"), desktop::TextStyle::body, Role::text2, this);
     label->setContentsMargins(0, 0, scaled(4), 0);
     addWidget(label);
+    fiscal_year_->setObjectName(QStringLiteral("fiscalYear"));
     fiscal_year_->setAccessibleName(label->text());
     fiscal_year_->setMinimumWidth(scaled(112));
-    fiscal_year_->setEnabled(false);
     addWidget(fiscal_year_);
+    connect(fiscal_year_, &QComboBox::activated, this,
+        [this] { Q_EMIT fiscal_year_chosen(fiscal_year_->currentData().toLongLong()); });
     auto* gap = new QWidget(this);
     gap->setFixedWidth(scaled(14));
     addWidget(gap);
+}
+
+void WindowToolBar::add_search()
+{
+    search_->setObjectName(QStringLiteral("search"));
     search_->setPlaceholderText(QStringLiteral("Find a grant or funder"));
     search_->setAccessibleName(search_->placeholderText());
     search_->addAction(line_icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    QAction* clear = search_->addAction(line_icon(QStringLiteral("close")), QLineEdit::TrailingPosition);
+    clear->setToolTip(QStringLiteral("Clear the search"));
+    clear->setVisible(false);
     search_->setFixedWidth(scaled(search_width));
-    search_->setEnabled(false);
     addWidget(search_);
+    connect(clear, &QAction::triggered, search_, &QLineEdit::clear);
+    connect(
+        search_, &QLineEdit::textChanged, clear, [clear](const QString& text) { clear->setVisible(!text.isEmpty()); });
+    connect(search_, &QLineEdit::textChanged, this, &WindowToolBar::search_changed);
+    connect(search_, &QLineEdit::returnPressed, this, &WindowToolBar::search_left);
+    auto* escape = new QShortcut(Qt::Key_Escape, search_);
+    escape->setContext(Qt::WidgetShortcut);
+    connect(escape, &QShortcut::activated, this, [this] {
+        if (search_->text().isEmpty())
+            Q_EMIT search_left();
+        search_->clear();
+    });
 }
 
 QWidget* WindowToolBar::first_button() const
@@ -108,12 +136,27 @@ QToolButton* WindowToolBar::add_menu_button(
     return button;
 }
 
-void WindowToolBar::show_fiscal_year(const QString& label)
+void WindowToolBar::show_fiscal_years(const FiscalYearChoice& choice)
 {
-    if (fiscal_year_->currentText() == label)
+    if (fiscal_years_ == choice)
         return;
+    fiscal_years_ = choice;
     fiscal_year_->clear();
-    fiscal_year_->addItem(label);
+    for (std::size_t i = 0; i < choice.years.size(); ++i)
+        fiscal_year_->addItem(desktop::to_qt(choice.labels[i]), static_cast<qlonglong>(choice.years[i]));
+    fiscal_year_->setCurrentIndex(static_cast<int>(choice.shown));
+}
+
+void WindowToolBar::show_search(const QString& text)
+{
+    if (search_->text() != text)
+        search_->setText(text);
+}
+
+void WindowToolBar::focus_search()
+{
+    search_->setFocus(Qt::ShortcutFocusReason);
+    search_->selectAll();
 }
 
 void WindowToolBar::update_buttons()

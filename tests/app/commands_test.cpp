@@ -44,7 +44,7 @@ TEST(Commands, WithoutADocumentOnlyThoseThatNeedNoneCanAct)
             enabled.push_back(command.row.id);
     EXPECT_THAT(enabled, ElementsAre("open", "openSample", "closeWindow", "quit", "minimize", "about"));
     EXPECT_TRUE(is_enabled(*find_command("showToday"), {.hasDocument = true}));
-    EXPECT_FALSE(is_enabled(*find_command("showPipeline"), {.hasDocument = true}));
+    EXPECT_FALSE(is_enabled(*find_command("showCalendar"), {.hasDocument = true}));
 }
 
 TEST(WindowLayout, GivesWayFromTheSidesAndHeedsTheUser)

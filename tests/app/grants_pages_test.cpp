@@ -120,7 +120,7 @@ TEST(PipelinePresentation, SaysWhatIsNotThere)
 TEST(AllGrants, ListTheYearByKeyDayWithTotals)
 {
     const auto page = all_grants_presentation(sample(), today, {2027, {}, ""});
-    EXPECT_EQ(page.facts, "FY2027 · 13 grants · ordered by key date");
+    EXPECT_EQ(page.facts + "|" + page.order, "FY2027 · 13 grants|ordered by key date");
     EXPECT_EQ(page.rows[0].spoken,
         "Mobile Pantry Operations, Tessaly Health Trust, Awarded, asked $80,000, Sep 11, 2026, Milestone");
     EXPECT_EQ(page.rows[3].next.date.text, "Nothing due");
@@ -140,6 +140,7 @@ TEST(AllGrants, AreFoundByTitleOrFunderWhateverTheCaseAndAccents)
     EXPECT_THAT(
         found("pemberwick", Stage::prospect), ElementsAre("Community Garden, Phase II", "General Operating 2027"));
     EXPECT_EQ(found("   ").size(), 13u);
+    EXPECT_EQ(all_grants_presentation(sample(), today, {2027, {}, "van"}).facts, "FY2027 · 1 of 13 grants");
 }
 
 TEST(AllGrants, SayWhyNothingIsListed)
@@ -169,7 +170,7 @@ TEST(AllGrants, KeepAGrantWithoutADateInSightInEveryYear)
     const GrantFile file = file_with({dated, idea});
     const auto page = all_grants_presentation(file, today, {2026, {}, ""});
     EXPECT_THAT(titles(page), ElementsAre("An idea", "Dated"));
-    EXPECT_EQ(page.facts, "FY2026 · 2 grants, 1 without a date · ordered by key date");
+    EXPECT_EQ(page.facts, "FY2026 · 2 grants, 1 without a date");
     EXPECT_EQ(page.rows[0].asked.text, "–");
     EXPECT_THAT(titles(all_grants_presentation(file, today, {2031, {}, ""})), ElementsAre("An idea"));
 }

@@ -50,7 +50,8 @@ public:
     void locate_error(std::string_view text);
 
     /// Turns the failure into a note and goes on with the value at `depth` that forgives it. The note names that value
-    /// first, since all of it is replaced: "vote.rollCall: the default stands in for it (vote.rollCall[1].choice: ...)".
+    /// first, since all of it is replaced: "vote.rollCall: the default stands in for it (vote.rollCall[1].choice:
+    /// ...)".
     void forgive(std::size_t depth, std::string_view instead);
 
     /// A note on the present path.

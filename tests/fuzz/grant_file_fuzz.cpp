@@ -6,8 +6,8 @@
 
 using namespace quillfern;
 
-/// Whatever the bytes, reading ends with a file or a refusal; and what was read is written as text that reads back equal
-/// and is then written the same.
+/// Whatever the bytes, reading ends with a file or a refusal; and what was read is written as text that reads back
+/// equal and is then written the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const FreshValues fresh{[] { return Uuid{}; }, Instant{}};

@@ -26,9 +26,9 @@ std::vector<TableColumn> columns()
     using enum TableColumn::Content;
     return {
         {QStringLiteral("Grant")},
-        {QStringLiteral("Stage"), words, Qt::AlignLeft, 176, 1},
-        {QStringLiteral("Asked"), figures, Qt::AlignRight, 108, 2},
-        {QStringLiteral("Next date"), figures, Qt::AlignLeft, 182},
+        {QStringLiteral("Stage"), words, Qt::AlignLeft, 173, 1},
+        {QStringLiteral("Asked"), figures, Qt::AlignRight, 100, 2},
+        {QStringLiteral("Next date"), figures, Qt::AlignLeft, 160},
     };
 }
 

@@ -99,7 +99,10 @@ void MainWindow::lay_out()
     splitter_->addWidget(sidebar_);
     splitter_->addWidget(pages_);
     splitter_->setStretchFactor(1, 1);
-    connect(splitter_, &QSplitter::splitterMoved, this, [this] { sidebar_width_ = sidebar_->width(); });
+    connect(splitter_, &QSplitter::splitterMoved, this, [this] {
+        if (sidebar_->width() >= scaled(least_sidebar_width)) // not the strip, which cannot be dragged
+            sidebar_width_ = sidebar_->width();
+    });
     pages_->addWidget(today_page_);
     setCentralWidget(content);
     setMinimumSize(960, 600);
@@ -223,8 +226,8 @@ void MainWindow::arrange()
     sidebar_->set_strip(strip);
     sidebar_->setMinimumWidth(scaled(strip ? strip_width : least_sidebar_width));
     sidebar_->setMaximumWidth(scaled(strip ? strip_width : most_sidebar_width));
-    if (!strip)
-        splitter_->setSizes({sidebar_width_, width() - sidebar_width_});
+    const int sidebar = strip ? scaled(strip_width) : sidebar_width_;
+    splitter_->setSizes({sidebar, width() - sidebar});
     today_page_->set_right_column(scaled(layout.rightColumn));
 }
 

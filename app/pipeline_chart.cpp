@@ -28,9 +28,11 @@ constexpr double head_height = 40;
 constexpr double row_height = 34;
 constexpr double foot_height = 7;
 constexpr double side_padding = 18;
-constexpr double label_width = 150;
+constexpr double label_width = 134;
 constexpr double count_width = 36;
 constexpr double amount_width = 108;
+constexpr double narrow_amount_width = 92;
+constexpr double narrow_below = 900;
 constexpr double bar_height = 20;
 constexpr double swatch_side = 11;
 constexpr double bar_radius = 3;
@@ -47,7 +49,7 @@ struct Columns {
     explicit Columns(const QRect& row)
     {
         const auto column = [&row](int left, int width) { return QRect(left, row.top(), width, row.height()); };
-        const int amount = scaled(amount_width);
+        const int amount = scaled(row.width() < scaled(narrow_below) ? narrow_amount_width : amount_width);
         label = column(row.left() + scaled(side_padding), scaled(label_width));
         count = column(label.right() + 1, scaled(count_width) + scaled(8));
         awarded = column(row.right() + 1 - scaled(side_padding) - amount, amount);
@@ -83,17 +85,17 @@ void paint_bar(QPainter& painter, const QRect& column, const StageBar& bar)
     painter.restore();
 }
 
-/// A swatch and its word; returns where the next one may stand.
+/// A swatch and its word, as long as both have room; returns where the next one may stand.
 int paint_legend_entry(QPainter& painter, const QRect& line, int left, Role swatch, const QString& text)
 {
     const int side = scaled(swatch_side);
-    desktop::paint_box(
-        painter, QRect(left, line.top() + (line.height() - side) / 2, side, side), scaled(3), color(swatch));
     const QFont& font = text_font(TextStyle::second);
     const int word = left + side + scaled(7);
     const int width = QFontMetrics(font).horizontalAdvance(text) + 1;
     if (word + width > line.right())
         return word + width;
+    const QRect box(left, line.top() + (line.height() - side) / 2, side, side);
+    desktop::paint_box(painter, box, scaled(3), color(swatch));
     desktop::draw_line(painter, QRect(word, line.top(), width, line.height()), text, font, Role::text2);
     return word + width + scaled(12);
 }

@@ -15,6 +15,7 @@ namespace quillfern::desktop {
 namespace {
 
 constexpr double least_room = 220; ///< for the column that takes what the others leave
+constexpr double enough_room = 300; ///< no other column leaves to give it more
 
 } // namespace
 
@@ -113,60 +114,71 @@ void TableView::resizeEvent(QResizeEvent* event)
     fit_columns();
 }
 
-/// The design's width, or more where the longest text does not fit it. Only texts of the most characters are measured:
-/// measuring each of thousands would be felt.
+/// How wide the longest content is. Only texts of the most characters are measured: measuring each of thousands would
+/// be felt.
+int TableView::content_width(int column) const
+{
+    const TableColumn& shape = model_->columns()[static_cast<std::size_t>(column)];
+    qsizetype longest = 0;
+    int width = 0;
+    for (int row = 0; row < model_->rowCount(); ++row) {
+        const TableCell& cell = model_->row(row).cells[static_cast<std::size_t>(column)];
+        const qsizetype length = std::max(cell.text.size(), cell.second.size());
+        if (length <= longest)
+            continue;
+        width = std::max(width, table_cell_width(cell, shape));
+        longest = length;
+    }
+    return width + scaled(30);
+}
+
+/// The design's width; for figures, which are never elided, as much as they need. The column that takes the rest wants
+/// its words in full before others may stay, within reason.
 int TableView::wanted_width(int column) const
 {
     const TableColumn& shape = model_->columns()[static_cast<std::size_t>(column)];
-    const int designed = scaled(shape.width);
-    if (shape.content == TableColumn::Content::words)
-        return designed;
-    qsizetype longest = 0;
-    int content = 0;
-    for (int row = 0; row < model_->rowCount(); ++row) {
-        const TableCell& cell = model_->row(row).cells[static_cast<std::size_t>(column)];
-        if (cell.text.size() < longest)
+    if (shape.width <= 0)
+        return std::clamp(content_width(column), scaled(least_room), scaled(enough_room));
+    return shape.content == TableColumn::Content::figures ? std::max(scaled(shape.width), content_width(column))
+                                                          : scaled(shape.width);
+}
+
+/// The column to leave out next; -1 when all that are left stay.
+int TableView::next_to_leave(const std::vector<bool>& hidden) const
+{
+    int leaving = -1;
+    int rank = 0;
+    for (std::size_t column = 0; column < hidden.size(); ++column) {
+        if (hidden[column] || model_->columns()[column].leaves <= rank)
             continue;
-        content = std::max(content, cell.text.size() > longest ? table_cell_width(cell, shape) : content);
-        longest = cell.text.size();
+        leaving = static_cast<int>(column);
+        rank = model_->columns()[column].leaves;
     }
-    return std::max(designed, content + scaled(30));
+    return leaving;
 }
 
 void TableView::fit_columns()
 {
-    const int count = model_->columnCount();
-    const int room = viewport()->width();
     std::vector<int> widths;
-    int flexible = -1;
-    int fixed = 0;
-    for (int column = 0; column < count; ++column) {
-        const bool takes_rest = model_->columns()[static_cast<std::size_t>(column)].width <= 0;
-        widths.push_back(takes_rest ? 0 : wanted_width(column));
-        flexible = takes_rest ? column : flexible;
-        fixed += widths.back();
+    std::size_t flexible = 0;
+    int total = 0;
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        widths.push_back(wanted_width(column));
+        total += widths.back();
+        if (model_->columns()[static_cast<std::size_t>(column)].width <= 0)
+            flexible = static_cast<std::size_t>(column);
     }
     std::vector<bool> hidden(widths.size(), false);
-    while (room - fixed < scaled(least_room)) {
-        int leaving = -1;
-        for (int column = 0; column < count; ++column) {
-            const auto at = static_cast<std::size_t>(column);
-            const int rank = model_->columns()[at].leaves;
-            if (!hidden[at] && rank > 0
-                && (leaving < 0 || rank > model_->columns()[static_cast<std::size_t>(leaving)].leaves))
-                leaving = column;
-        }
-        if (leaving < 0)
-            break;
+    const int room = viewport()->width();
+    for (int leaving = next_to_leave(hidden); total > room && leaving >= 0; leaving = next_to_leave(hidden)) {
         hidden[static_cast<std::size_t>(leaving)] = true;
-        fixed -= widths[static_cast<std::size_t>(leaving)];
+        total -= widths[static_cast<std::size_t>(leaving)];
     }
-    if (flexible >= 0)
-        widths[static_cast<std::size_t>(flexible)] = std::max(room - fixed, scaled(least_room) / 2);
-    for (int column = 0; column < count; ++column) {
-        setColumnHidden(column, hidden[static_cast<std::size_t>(column)]);
-        if (!isColumnHidden(column))
-            setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    widths[flexible] = std::max(widths[flexible] + room - total, scaled(least_room) / 2);
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+        setColumnHidden(static_cast<int>(column), hidden[column]);
+        if (!hidden[column])
+            setColumnWidth(static_cast<int>(column), widths[column]);
     }
     Q_EMIT columns_changed();
 }
@@ -193,6 +205,7 @@ bool TableView::viewportEvent(QEvent* event)
 void TableView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTableView::currentChanged(current, previous);
+    viewport()->update(); // the focus frame goes round the whole row
     if (!resetting_ && current.isValid() && current.row() != previous.row())
         Q_EMIT row_chosen(chosen());
 }

@@ -47,7 +47,9 @@ protected:
 
 private:
     void fit_columns();
+    int content_width(int column) const;
     int wanted_width(int column) const;
+    int next_to_leave(const std::vector<bool>& hidden) const;
     void set_hovered_row(int row);
     void choose_again(const QString& id);
 

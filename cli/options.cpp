@@ -22,9 +22,15 @@ static CLI::Option* add_parsed(CLI::App& verb, const std::string& name, T& value
     return verb.add_option_function<std::string>(name, take, description);
 }
 
+static CLI::Option* add_path(CLI::App& verb, const std::string& name, std::string& path, const std::string& description)
+{
+    const auto problem = [](const std::string& text) { return text.empty() ? "an empty name" : ""; };
+    return verb.add_option(name, path, description)->required()->check(CLI::Validator(problem, ""));
+}
+
 void add_package(CLI::App& verb, std::string& path)
 {
-    verb.add_option("PATH", path, "The organization package")->required()->option_text(" ");
+    add_path(verb, "PATH", path, "The organization package")->option_text(" ");
 }
 
 void add_today(CLI::App& verb, grants::Day& today)
@@ -56,7 +62,7 @@ void add_json(CLI::App& verb, bool& json)
 
 void add_out(CLI::App& verb, std::string& path, bool& force, const std::string& description)
 {
-    verb.add_option("--out", path, description)->required()->option_text("FILE");
+    add_path(verb, "--out", path, description)->option_text("FILE");
     add_flag(verb, "--force", force, "Replace what stands there");
 }
 
@@ -78,7 +84,7 @@ void add_required_uuid(CLI::App& verb, const std::string& name, Uuid& value, con
 
 void add_file(CLI::App& verb, std::string& path, const std::string& description)
 {
-    verb.add_option("FILE", path, description)->required()->option_text(" ");
+    add_path(verb, "FILE", path, description)->option_text(" ");
 }
 
 static std::optional<grants::Delimiter> parse_delimiter(const std::string& text)

@@ -202,6 +202,8 @@ class Refusals(CommandLineTest):
         for words, said in (
             ([], "subcommand"),
             (["agenda"], "PATH"),
+            (["agenda", ""], "PATH"),
+            (["sample", "--out", ""], "--out"),
             (["frobnicate", package], "frobnicate"),
             (["agenda", package, "--frobnicate"], "--frobnicate"),
             (["agenda", "--frobnicate"], "--frobnicate"),

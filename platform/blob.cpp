@@ -118,10 +118,17 @@ BlobSource Blob::source() const
 
 void Blob::move_to(BlobSource source) const
 {
-    if (const auto* file = std::get_if<StoredFile>(&source))
-        file->tree->remember(node_);
-    const std::lock_guard lock(node_->mutex);
-    node_->source = std::move(source);
+    const auto tree_of = [](const BlobSource& each) {
+        const auto* file = std::get_if<StoredFile>(&each);
+        return file ? file->tree : nullptr;
+    };
+    const auto tree = tree_of(source);
+    {
+        const std::lock_guard lock(node_->mutex);
+        std::swap(node_->source, source);
+    }
+    if (tree && tree != tree_of(source)) // now the former source
+        tree->remember(node_);
 }
 
 std::string TreeLocation::path() const

@@ -63,6 +63,7 @@ public:
     friend bool operator==(const Blob& a, const Blob& b);
 
     // For the saver, which knows where the bytes are now.
+    const void* identity() const { return node_.get(); } ///< the same for all copies of a handle
     BlobSource source() const;
     void move_to(BlobSource source) const;
 

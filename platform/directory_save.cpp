@@ -164,7 +164,8 @@ Step PackageSaver::exchange()
     const auto name =
         swap_in(calls_, {parent_.get(), split_.folder, split_.name, sibling_, built.fingerprint.listing.inode});
     if (!name) {
-        remove_new_state(sibling_);
+        if (name.error().problem != SaveProblem::notFlushed)
+            remove_new_state(sibling_);
         return fail(name.error());
     }
     displaced = path_of(*name);
@@ -175,7 +176,7 @@ Step PackageSaver::move_to_new_name()
 {
     const auto moved =
         move_in(calls_, {parent_.get(), split_.folder, split_.name, sibling_, built.fingerprint.listing.inode});
-    if (!moved)
+    if (!moved && moved.error().problem != SaveProblem::notFlushed)
         remove_new_state(sibling_);
     return moved;
 }
@@ -203,13 +204,8 @@ void PackageSaver::tell(PackagePlace& place, SaveOutcome& outcome) const
         std::back_inserter(outcome.unknownEntries), [](const std::string& entry) { return !is_desktop_litter(entry); });
 }
 
-/// Replaces the package at the saver's path, which `before` describes. `flushed` is what the last flush said.
-struct Replaced {
-    Step flushed;
-    Displaced displaced;
-};
-
-Result<Replaced, SaveError> replace(
+/// Replaces the package at the saver's path, which `before` describes. The result is what the last flush said.
+Result<Step, SaveError> replace(
     PackageSaver& saver, const Fingerprint& before, Reuse reuse, const TreeLocation* own_tree)
 {
     if (const Step unchanged = saver.check_unchanged(before); !unchanged)
@@ -218,7 +214,14 @@ Result<Replaced, SaveError> replace(
         return fail(built.error());
     if (const Step exchanged = saver.exchange(); !exchanged)
         return fail(exchanged.error());
-    return Replaced{saver.flush_parent(), {nullptr, before, saver.arrived}};
+    return saver.flush_parent();
+}
+
+/// The displaced tree, as `before` describes it.
+Displaced displaced_tree(const PackageSaver& saver, std::shared_ptr<TreeLocation> tree, Fingerprint before)
+{
+    before.listing.attachments.insert(saver.arrived.begin(), saver.arrived.end());
+    return {std::move(tree), std::move(before)};
 }
 
 Step look(PackageSaver& saver)
@@ -253,13 +256,13 @@ void free_backup_name(SystemCalls& calls, const PackagePlace& place)
 
 Result<Displaced, SaveError> replace_at(PackageSaver& saver, const std::string& path, const PackageContents& contents)
 {
-    auto replaced = replace(saver, {saver.present.listing, {}}, Reuse::clones, nullptr);
+    const Fingerprint before{saver.present.listing, {}};
+    const auto replaced = replace(saver, before, Reuse::clones, nullptr);
     if (!replaced)
         return fail(replaced.error());
-    if (!replaced->flushed)
-        return fail(replaced->flushed.error());
-    replaced->displaced.tree = set_apart(tree_at(path, contents), saver.displaced);
-    return std::move(replaced->displaced);
+    if (!*replaced)
+        return fail(replaced->error());
+    return displaced_tree(saver, set_apart(tree_at(path, contents), saver.displaced, {}), before);
 }
 
 Step create_at(PackageSaver& saver, const std::string& path, const PackageLayout& layout, SystemCalls& calls)
@@ -299,21 +302,23 @@ Result<SaveOutcome, SaveError> save_package(
     if (const Step opened = saver.open_present(); !opened)
         return fail(opened.error());
     free_backup_name(calls, place);
-    auto replaced = replace(saver, place.fingerprint, place.trusted ? Reuse::links : Reuse::copies, place.tree.get());
+    const auto replaced =
+        replace(saver, place.fingerprint, place.trusted ? Reuse::links : Reuse::copies, place.tree.get());
     if (!replaced)
         return fail(replaced.error());
 
-    replaced->displaced.tree = set_apart(place.tree, saver.displaced);
-    adopt(request.contents, request.layout, saver.built.fingerprint.listing, place.tree, !replaced->flushed.ok());
-    place.fingerprint = saver.built.fingerprint;
-    place.trusted = replaced->flushed.ok();
+    place.trusted = replaced->ok();
+    const Displaced displaced =
+        displaced_tree(saver, set_apart(place.tree, saver.displaced, request.contents), std::move(place.fingerprint));
+    place.fingerprint = std::move(saver.built.fingerprint);
+    adopt(request.contents, request.layout, place.fingerprint.listing, place.tree, !place.trusted);
     if (!place.trusted) {
-        place.keptTrees.push_back(replaced->displaced.tree);
-        return fail(replaced->flushed.error());
+        place.keptTrees.push_back(displaced.tree);
+        return fail(replaced->error());
     }
     SaveOutcome outcome;
     saver.tell(place, outcome);
-    settle(calls, place, request, replaced->displaced, outcome);
+    settle(calls, place, request, displaced, outcome);
     return outcome;
 }
 

@@ -47,7 +47,8 @@ int remove_contents(SystemCalls& calls, int package, const PackageLayout& layout
     const auto listing = list_package(calls, package, layout);
     if (!listing)
         return listing.error();
-    for (const std::string& name : {layout.mainFile, layout.logoFile, layout.readMeFile})
+    for (const std::string& name :
+        {layout.mainFile, std::string(unfinished_main_file), layout.logoFile, layout.readMeFile})
         if (const int error = name.empty() ? 0 : remove_entry(calls, package, name))
             return error;
     return remove_attachments(calls, package, layout, *listing);

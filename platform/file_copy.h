@@ -20,7 +20,7 @@ struct TargetFolder {
 /// go: none of them is worth refusing a save. (ACLs are extended attributes, so no library is needed.)
 void copy_attributes(SystemCalls& calls, int from, int to);
 
-/// Writes a new file and flushes it to the disk. `like` is an open file whose attributes it takes, or -1.
+/// A new file with these bytes, flushed to the disk. `like` is an open file whose attributes it takes, or -1.
 Result<FileStamp, SaveError> write_new_file(
     SystemCalls& calls, const TargetFolder& target, const std::string& name, std::string_view bytes, int like);
 

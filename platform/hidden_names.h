@@ -11,6 +11,9 @@ namespace quillfern::platform {
 std::string fresh_sibling_name(std::string_view document);
 bool is_sibling_of(std::string_view entry, std::string_view document);
 
+/// The main file in a tree that is being built: a tree with a main file of its real name is complete.
+inline constexpr char unfinished_main_file[] = ".~main~";
+
 /// ".~NAME.bak~": the document itself, while a save that cannot exchange two folders in one step is replacing it.
 std::string backup_name(std::string_view document);
 

@@ -1,6 +1,7 @@
 #include "platform/package_listing.h"
 
 #include "platform/file_bytes.h"
+#include "platform/hidden_names.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -8,16 +9,18 @@
 namespace quillfern::platform {
 namespace {
 
+struct Entry {
+    bool exists = false; ///< it may be gone since the folder was listed
+    std::optional<FileStamp> regular; ///< absent for links, folders and everything else
+};
+
 /// What an entry is, by the entry itself and not by what it leads to.
-Result<std::optional<FileStamp>, int> regular_file(SystemCalls& calls, int folder, const std::string& name)
+Result<Entry, int> look_at(SystemCalls& calls, int folder, const std::string& name)
 {
     struct stat status = {};
-    if (calls.status_at(folder, name.c_str(), status) != 0) {
-        if (errno == ENOENT)
-            return std::optional<FileStamp>();
-        return fail(int{errno});
-    }
-    return S_ISREG(status.st_mode) ? std::optional(stamp_of(status)) : std::nullopt;
+    if (calls.status_at(folder, name.c_str(), status) != 0)
+        return errno == ENOENT ? Result<Entry, int>(Entry{}) : fail(int{errno});
+    return Entry{true, S_ISREG(status.st_mode) ? std::optional(stamp_of(status)) : std::nullopt};
 }
 
 int list_attachments(SystemCalls& calls, int package, const PackageLayout& layout, PackageListing& listing)
@@ -34,12 +37,12 @@ int list_attachments(SystemCalls& calls, int package, const PackageLayout& layou
     if (calls.list(folder.get(), names) != 0)
         return errno;
     for (const std::string& name : names) {
-        const auto stamp = regular_file(calls, folder.get(), name);
-        if (!stamp)
-            return stamp.error();
-        if (*stamp && !name.starts_with('.'))
-            listing.attachments.emplace(name, **stamp);
-        else
+        const auto entry = look_at(calls, folder.get(), name);
+        if (!entry)
+            return entry.error();
+        if (entry->regular && !name.starts_with('.'))
+            listing.attachments.emplace(name, *entry->regular);
+        else if (entry->exists)
             listing.unknownEntries.push_back(layout.attachmentsFolder + '/' + name);
     }
     return 0;
@@ -50,14 +53,16 @@ int list_entry(
 {
     if (name == layout.attachmentsFolder)
         return list_attachments(calls, package, layout, listing);
-    const auto stamp = regular_file(calls, package, name);
-    if (!stamp)
-        return stamp.error();
-    if (*stamp && name == layout.mainFile)
-        listing.mainFile = **stamp;
-    else if (*stamp && name == layout.logoFile)
-        listing.logo = **stamp;
-    else if (!*stamp || name != layout.readMeFile)
+    if (name == unfinished_main_file)
+        return 0;
+    const auto entry = look_at(calls, package, name);
+    if (!entry)
+        return entry.error();
+    if (entry->regular && name == layout.mainFile)
+        listing.mainFile = *entry->regular;
+    else if (entry->regular && name == layout.logoFile)
+        listing.logo = *entry->regular;
+    else if (entry->exists && !(entry->regular && name == layout.readMeFile))
         listing.unknownEntries.push_back(name);
     return 0;
 }

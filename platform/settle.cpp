@@ -3,6 +3,7 @@
 #include "platform/file_bytes.h"
 #include "platform/hidden_names.h"
 
+#include <unordered_set>
 #include <utility>
 
 namespace quillfern::platform {
@@ -43,9 +44,7 @@ void Settling::settle(const Displaced& displaced)
     const auto now = list_package(calls_, folder.get(), request_.layout);
     if (!now)
         return keep(displaced.tree, now.error());
-    Fingerprint expected = displaced.expected;
-    expected.listing.attachments.insert(displaced.carried.begin(), displaced.carried.end());
-    const auto difference = compare_with(calls_, expected, *now, folder.get(), request_.layout);
+    const auto difference = compare_with(calls_, displaced.expected, *now, folder.get(), request_.layout);
     if (!difference)
         return keep(displaced.tree, difference.error());
     if (*difference != Difference::none)
@@ -67,8 +66,7 @@ int Settling::carry_over_late(const Displaced& displaced, const PackageListing& 
 {
     std::vector<std::string> late;
     for (const auto& [name, stamp] : now.attachments) {
-        if (displaced.expected.listing.attachments.contains(name) || displaced.carried.contains(name)
-            || request_.contents.attachments.contains(name))
+        if (displaced.expected.listing.attachments.contains(name) || request_.contents.attachments.contains(name))
             continue;
         late.push_back(join_path(request_.layout.attachmentsFolder, name));
         if (place_.arrived.insert(name).second)
@@ -91,10 +89,18 @@ void Settling::put_away(const std::shared_ptr<TreeLocation>& tree)
 
 } // namespace
 
-std::shared_ptr<TreeLocation> set_apart(const std::shared_ptr<TreeLocation>& tree, const std::string& path)
+std::shared_ptr<TreeLocation> set_apart(
+    const std::shared_ptr<TreeLocation>& tree, const std::string& path, const PackageContents& adopted)
 {
+    std::unordered_set<const void*> kept;
+    for (const auto& [name, blob] : adopted.attachments)
+        kept.insert(blob.identity());
+    if (adopted.logo)
+        kept.insert(adopted.logo->identity());
     auto displaced = std::make_shared<TreeLocation>(path);
     for (const Blob& blob : tree->living()) {
+        if (kept.contains(blob.identity()))
+            continue;
         StoredFile file = std::get<StoredFile>(blob.source());
         file.tree = displaced;
         blob.move_to(std::move(file));

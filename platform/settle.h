@@ -7,8 +7,10 @@
 
 namespace quillfern::platform {
 
-/// Blobs that read from `tree` read from its displaced state, at `path`, from now on.
-std::shared_ptr<TreeLocation> set_apart(const std::shared_ptr<TreeLocation>& tree, const std::string& path);
+/// Blobs that read from `tree` read from its displaced state, at `path`, from now on; but for those of `adopted`, which
+/// adopt() moves.
+std::shared_ptr<TreeLocation> set_apart(
+    const std::shared_ptr<TreeLocation>& tree, const std::string& path, const PackageContents& adopted);
 
 /// The blobs of `contents` read from the saved files in `tree` from now on. With `keep_memory` those whose bytes are in
 /// memory stay there, for a save that may not have reached the disk.
@@ -18,8 +20,7 @@ void adopt(const PackageContents& contents, const PackageLayout& layout, const P
 /// What a save has put aside.
 struct Displaced {
     std::shared_ptr<TreeLocation> tree;
-    Fingerprint expected; ///< as it was when the save began
-    StampedFiles carried; ///< attachments in it that others had put there and that the new state has
+    Fingerprint expected; ///< as it was when the save began, with what others had put there and the new state has, too
 };
 
 /// The last step of a save: keeps a displaced tree that someone else has written, puts away any other, and tells in

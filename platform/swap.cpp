@@ -9,16 +9,32 @@
 namespace quillfern::platform {
 namespace {
 
-/// A network file system may report an error for a rename that it has done.
-bool happened(SystemCalls& calls, const SwapNames& names)
+/// What a rename that reported an error has done. A network file system may have renamed all the same.
+enum class Renamed { no, yes, unknown };
+
+Renamed look_again(SystemCalls& calls, const SwapNames& names)
 {
     struct stat status = {};
-    return calls.status_at(names.parent, names.document.c_str(), status) == 0 && status.st_ino == names.siblingInode;
+    if (calls.status_at(names.parent, names.document.c_str(), status) != 0)
+        return errno == ENOENT ? Renamed::no : Renamed::unknown;
+    return status.st_ino == names.siblingInode ? Renamed::yes : Renamed::no;
 }
 
 SaveError swap_error(const SwapNames& names, int error)
 {
     return save_error(SaveStep::swap, join_path(names.path, names.document), error);
+}
+
+/// When nobody can tell, both trees must stay.
+Result<Done, SaveError> judge_rename(SystemCalls& calls, const SwapNames& names, int error)
+{
+    const Renamed renamed = look_again(calls, names);
+    if (renamed == Renamed::yes)
+        return Done{};
+    SaveError failed = swap_error(names, error);
+    if (renamed == Renamed::unknown)
+        failed.problem = SaveProblem::notFlushed;
+    return fail(std::move(failed));
 }
 
 /// A backup that an earlier crash has left is out of date once the document can be read: it becomes one more sibling.
@@ -67,16 +83,16 @@ Result<std::string, SaveError> swap_in(SystemCalls& calls, const SwapNames& name
     const int error = errno;
     if (error == EINVAL || error == ENOSYS || error == EOPNOTSUPP)
         return swap_in_two_steps(calls, names);
-    if (happened(calls, names))
-        return names.sibling;
-    return fail(swap_error(names, error));
+    if (const auto renamed = judge_rename(calls, names, error); !renamed)
+        return fail(renamed.error());
+    return names.sibling;
 }
 
 Result<Done, SaveError> move_in(SystemCalls& calls, const SwapNames& names)
 {
     const int error = rename_to_free_name(calls, names.parent, names.sibling, names.parent, names.document);
-    if (error && !happened(calls, names))
-        return fail(swap_error(names, error));
+    if (error)
+        return judge_rename(calls, names, error);
     return Done{};
 }
 

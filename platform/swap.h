@@ -20,7 +20,8 @@ struct SwapNames {
 };
 
 /// Puts the sibling in the document's place. The result is the name under which the displaced tree now stands in the
-/// same folder. On an error the document is as it was, and the sibling still there.
+/// same folder. On an error the document is as it was, and the sibling still there; but for `notFlushed`, when the
+/// system reported an error and does not say either what stands where now.
 ///
 /// Where the file system cannot exchange two names, the document is first renamed to its backup name; a crash before
 /// the second rename leaves it there, and reading puts it back.

@@ -25,7 +25,9 @@ private:
     Written write_attachment(const std::string& name, const Blob& blob);
     Written carry_over_arrived();
     Written write_logo();
-    Written write_texts();
+    Written begin_main_file();
+    Written write_read_me();
+    Written finish_main_file();
     Written finish_folder();
 
     Result<FileStamp, SaveError> write_blob(const TargetFolder& target, const std::string& name, const Blob& blob);
@@ -44,14 +46,15 @@ private:
     TargetFolder attachments_;
     enum class Clones { unknown, made, refused } clones_ = Clones::unknown;
     BuiltTree built_;
+    std::future<Result<FileStamp, SaveError>> main_file_; ///< last: a failing build waits for it
 };
 
 Result<BuiltTree, SaveError> TreeBuilder::build()
 {
     auto hash = std::async(std::launch::async, [this] { return sha256(plan_.contents.mainText); });
     using Step = Written (TreeBuilder::*)();
-    for (const Step step : {&TreeBuilder::write_attachments, &TreeBuilder::write_logo, &TreeBuilder::write_texts,
-             &TreeBuilder::finish_folder})
+    for (const Step step : {&TreeBuilder::begin_main_file, &TreeBuilder::write_attachments, &TreeBuilder::write_logo,
+             &TreeBuilder::write_read_me, &TreeBuilder::finish_main_file, &TreeBuilder::finish_folder})
         if (const Written written = (this->*step)(); !written)
             return fail(written.error());
     built_.fingerprint.mainHash = hash.get();
@@ -109,19 +112,36 @@ TreeBuilder::Written TreeBuilder::write_logo()
     return Done{};
 }
 
-TreeBuilder::Written TreeBuilder::write_texts()
+/// The text is written and flushed while the attachments are linked: the one waits for the disk, the other for the
+/// processor.
+TreeBuilder::Written TreeBuilder::begin_main_file()
 {
-    const PackageLayout& layout = plan_.layout;
-    if (!layout.readMeFile.empty()) {
-        const auto stamp = write_new_file(
-            calls_, sibling_, layout.readMeFile, plan_.contents.readMe, present_file(layout.readMeFile).get());
-        if (!stamp)
-            return fail(stamp.error());
-    }
-    const auto stamp =
-        write_new_file(calls_, sibling_, layout.mainFile, plan_.contents.mainText, present_file(layout.mainFile).get());
+    main_file_ = std::async(std::launch::async, [this] {
+        return write_new_file(
+            calls_, sibling_, unfinished_main_file, plan_.contents.mainText, present_file(plan_.layout.mainFile).get());
+    });
+    return Done{};
+}
+
+TreeBuilder::Written TreeBuilder::write_read_me()
+{
+    const std::string& name = plan_.layout.readMeFile;
+    if (name.empty())
+        return Done{};
+    const auto stamp = write_new_file(calls_, sibling_, name, plan_.contents.readMe, present_file(name).get());
     if (!stamp)
         return fail(stamp.error());
+    return Done{};
+}
+
+TreeBuilder::Written TreeBuilder::finish_main_file()
+{
+    const auto stamp = main_file_.get();
+    if (!stamp)
+        return fail(stamp.error());
+    const char* name = plan_.layout.mainFile.c_str();
+    if (calls_.rename_at(sibling_.folder, unfinished_main_file, sibling_.folder, name, 0) != 0)
+        return fail(save_error(SaveStep::build, join_path(sibling_.path, name), errno));
     built_.fingerprint.listing.mainFile = *stamp;
     return Done{};
 }

@@ -332,7 +332,7 @@ TEST_F(DirectorySave, After_a_failed_last_flush_both_states_stay_and_the_next_sa
     public:
         int rename_at(int from, const char* name, int to, const char* as, unsigned flags) override
         {
-            exchanged = true;
+            exchanged = exchanged || flags == RENAME_EXCHANGE;
             return SystemCalls::rename_at(from, name, to, as, flags);
         }
         int sync(int file) override { return exchanged ? (errno = EIO, -1) : SystemCalls::sync(file); }

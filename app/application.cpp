@@ -7,7 +7,6 @@
 #include "desktop/alert.h"
 #include "desktop/package_dialog.h"
 #include "grants/package_messages.h"
-#include "grants/sample_organization.h"
 
 #include <QFileInfo>
 
@@ -16,15 +15,6 @@
 
 namespace quillfern::app {
 namespace {
-
-grants::OrgPackage sample_package(const grants::Day& today)
-{
-    grants::SampleContent content = grants::sample_content(today, grants::Lang::en);
-    grants::AttachmentBytes attachments;
-    for (auto& [name, bytes] : content.attachments)
-        attachments.emplace(name, platform::Blob(std::move(bytes)));
-    return {std::move(content.file), std::move(attachments), platform::Blob(std::string(content.logo))};
-}
 
 QString qt(const std::string& text)
 {
@@ -52,7 +42,10 @@ void tell_notes(MainWindow& window)
 
 } // namespace
 
-Application::Application(DayWatch::Clock clock, QObject* parent) : QObject(parent), day_watch_(std::move(clock)) { }
+Application::Application(DocumentSource& source, DayWatch::Clock clock, QObject* parent)
+    : QObject(parent), source_(source), day_watch_(std::move(clock))
+{
+}
 
 Application::~Application()
 {
@@ -65,7 +58,7 @@ void Application::open(const QString& path, QWidget* asking)
     const QString package = package_path(path);
     if (MainWindow* window = window_of(package))
         return window->come_forward();
-    auto opened = grants::read_package(package.toStdString());
+    auto opened = source_.read(package);
     if (!opened)
         return refuse(opened.error(), package, asking);
     show_document(std::make_unique<Document>(*std::move(opened), package));
@@ -73,7 +66,7 @@ void Application::open(const QString& path, QWidget* asking)
 
 void Application::open_sample()
 {
-    show_document(std::make_unique<Document>(sample_package(day_watch_.today())));
+    show_document(std::make_unique<Document>(source_.sample(day_watch_.today())));
 }
 
 void Application::choose_file(QWidget* asking)

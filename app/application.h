@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/day_watch.h"
-#include "grants/org_package.h"
+#include "app/document_source.h"
 
 #include <QList>
 #include <QObject>
@@ -20,7 +20,7 @@ class StartWindow;
 class Application : public QObject {
     Q_OBJECT
 public:
-    explicit Application(DayWatch::Clock clock, QObject* parent = nullptr);
+    Application(DocumentSource& source, DayWatch::Clock clock, QObject* parent = nullptr);
     ~Application() override;
 
     /// Opens the package, or raises the window that shows it already. A package that is refused opens no window: an
@@ -46,6 +46,7 @@ private:
     void show_document(std::unique_ptr<Document> document);
     void refuse(const grants::PackageError& error, const QString& path, QWidget* asking);
 
+    DocumentSource& source_;
     DayWatch day_watch_;
     QList<MainWindow*> windows_;
     QPointer<StartWindow> start_;

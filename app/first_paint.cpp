@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include <utility>
 
@@ -16,13 +17,14 @@ void FirstPaint::after(Application& program, std::function<void()> then)
 {
     auto* waiting = new FirstPaint(&program, std::move(then));
     connect(&program, &Application::window_shown, waiting,
-        [waiting](QWidget* window) { window->installEventFilter(waiting); });
+        [waiting](QWidget* window) { window->windowHandle()->installEventFilter(waiting); });
 }
 
+/// A window whose parts cover it wholly is never painted itself, so its paint events would not tell.
 bool FirstPaint::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Paint && then_) {
-        // The rest of the window is painted in the same turn of the event loop as this, its first part.
+    if (event->type() == QEvent::Expose && static_cast<QWindow*>(watched)->isExposed() && then_) {
+        // The window is painted while it takes this event, which happens after its filters have seen it.
         QTimer::singleShot(0, parent(), std::exchange(then_, nullptr));
         deleteLater();
     }

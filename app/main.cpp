@@ -1,6 +1,8 @@
 #include "app/application.h"
+#include "app/early_read.h"
 #include "app/first_paint.h"
 #include "app/options.h"
+#include "desktop/early_fonts.h"
 #include "desktop/focus_ring.h"
 #include "desktop/icons.h"
 #include "desktop/theme.h"
@@ -48,6 +50,8 @@ int main(int argc, char** argv)
     if (!early.text.empty())
         return answer_without_window(early);
 
+    const std::jthread fonts = desktop::read_fonts_early();
+    app::EarlyRead source(early);
     // The menu bar stands in its window; asking the desktop for another place would cost a round trip at every start.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication application(argc, argv); // takes the toolkit's own options out of the arguments
@@ -57,7 +61,7 @@ int main(int argc, char** argv)
 
     desktop::Theme theme(application, desktop::scheme_choice(options.scheme));
     desktop::FocusRing focus_ring(&application);
-    app::Application program(options.clock());
+    app::Application program(source, options.clock());
     // What no eye misses at once waits until the first window is on the screen.
     app::FirstPaint::after(program, [&] {
         if (options.exit_after_paint)

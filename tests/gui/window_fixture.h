@@ -67,7 +67,8 @@ protected:
 
     QTemporaryDir folder_;
     grants::Day today_{2026, 9, 10};
-    Application program_{[this] { return today_; }};
+    DocumentSource source_;
+    Application program_{source_, [this] { return today_; }};
 };
 
 } // namespace quillfern::app

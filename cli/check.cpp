@@ -4,7 +4,9 @@
 #include "cli/options.h"
 #include "cli/text_table.h"
 #include "cli/verbs.h"
+#include "grants/amount_limits.h"
 #include "grants/carriage_returns.h"
+#include "grants/repeated_ids.h"
 
 #include <memory>
 #include <set>
@@ -101,9 +103,11 @@ Findings examine(const OpenedPackage& opened)
     Findings found;
     count_records(opened.package.file, found);
     compare_attachments(opened.package, found);
-    found.warnings = opened.notes;
-    const ReadNotes carriage_returns = texts_with_carriage_returns(opened.package.file);
-    found.warnings.insert(found.warnings.end(), carriage_returns.begin(), carriage_returns.end());
+    const GrantFile& file = opened.package.file;
+    for (const ReadNotes& notes : {opened.notes, texts_with_carriage_returns(file), repeated_ids(file)})
+        found.warnings.insert(found.warnings.end(), notes.begin(), notes.end());
+    if (!figures_fit(file))
+        found.warnings.emplace_back(amounts_too_large);
     return found;
 }
 

@@ -3,6 +3,7 @@
 #include "cli/options.h"
 #include "cli/text_table.h"
 #include "cli/verbs.h"
+#include "grants/amount_limits.h"
 #include "grants/funder_history.h"
 #include "grants/labels.h"
 #include "grants/summaries.h"
@@ -204,6 +205,8 @@ Answer run(const Asked& asked)
     if (!opened)
         return fail(opened.error());
     const GrantFile& file = opened->package.file;
+    if (!figures_fit(file))
+        return fail(std::string(amounts_too_large));
     const Figures all = figures(file, asked);
     return asked.json ? json_text(all) : as_text(all, file, asked.lang);
 }

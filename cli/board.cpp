@@ -1,6 +1,7 @@
 #include "cli/board_answer.h"
 #include "cli/board_documents.h"
 #include "cli/options.h"
+#include "cli/remarks.h"
 #include "cli/verbs.h"
 
 #include <memory>
@@ -20,10 +21,12 @@ struct Asked {
 
 Answer run(const Asked& asked)
 {
-    const auto board = open_board(asked.path);
-    if (!board)
-        return fail(board.error());
-    const BoardAnswer answer = board_answer(*board, asked.present, asked.year.value_or(asked.today.year), asked.lang);
+    const auto opened = open_board(asked.path);
+    if (!opened)
+        return fail(opened.error());
+    print_notes(opened->notes);
+    const BoardAnswer answer =
+        board_answer(opened->board, asked.present, asked.year.value_or(asked.today.year), asked.lang);
     return asked.json ? as_json(answer) : as_text(answer, asked.lang);
 }
 

@@ -2,8 +2,9 @@
 
 #include "board/board_file.h"
 #include "cli/documents.h"
+#include "cli/package_folders.h"
+#include "cli/save_words.h"
 #include "grants/day.h"
-#include "grants/package_messages.h"
 #include "platform/clock.h"
 #include "platform/random_uuid.h"
 
@@ -15,29 +16,27 @@ namespace {
 /// By what is in the folder; its name decides only when it holds both kinds of records, or none.
 bool is_board_package(const std::filesystem::path& path)
 {
-    std::error_code ignored;
-    const bool has_board = std::filesystem::is_regular_file(path / board::board_package_layout().mainFile, ignored);
-    const bool has_organization = std::filesystem::is_regular_file(path / "Quillfern.json", ignored);
-    if (has_board != has_organization)
-        return has_board;
+    if (holds_board(path) != holds_organization(path))
+        return holds_board(path);
     const std::filesystem::path named = path.has_filename() ? path : path.parent_path();
     return named.extension() == ".marrowind";
 }
 
 } // namespace
 
-Result<board::Board, std::string> open_board(const std::string& path)
+Result<board::BoardRead, std::string> open_board(const std::string& path)
 {
     if (is_board_package(path)) {
         auto read = board::read_board_file(path, {platform::random_uuid, platform::now()});
         if (!read)
             return fail(path + ": " + message(read.error(), Lang::en));
-        return std::move(read->board);
+        return std::move(read).value();
     }
-    const auto opened = open_organization(path);
+    auto opened = open_organization(path);
     if (!opened)
         return fail(opened.error());
-    return *opened->package.file.board;
+    std::erase_if(opened->notes, [](const std::string& note) { return !note.starts_with("board"); });
+    return board::BoardRead{opened->package.file.board, std::move(opened->notes)};
 }
 
 Result<Done, std::string> write_board(const board::Board& board, const std::string& path, bool force)
@@ -48,7 +47,7 @@ Result<Done, std::string> write_board(const board::Board& board, const std::stri
     const auto existing = force ? platform::Existing::replacePackage : platform::Existing::refuse;
     const auto written = board::write_board_file(board, path, existing, *lock, grants::today_here().text());
     if (!written)
-        return fail(grants::save_error_text(written.error()));
+        return fail(save_refusal(written.error(), path));
     return Done{};
 }
 

@@ -55,8 +55,15 @@ Result<platform::DocumentLock, std::string> lock_document(const std::string& pat
     return std::move(lock).value();
 }
 
+std::string loss_refusal(const ReadNotes& notes)
+{
+    return "Nothing was written: saving would lose what could not be read (" + notes.front() + ").";
+}
+
 Result<Done, std::string> save_organization(grants::OpenedPackage& document, const platform::DocumentLock& lock)
 {
+    if (!document.notes.empty())
+        return fail(loss_refusal(document.notes));
     const auto saved = grants::write_package(document.package, *document.place, lock);
     if (!saved)
         return fail(grants::save_error_text(saved.error()));

@@ -14,7 +14,10 @@ Result<grants::OpenedPackage, std::string> open_organization(
 /// Needed to save a document over its previous state; taken before it is opened.
 Result<platform::DocumentLock, std::string> lock_document(const std::string& path);
 
-/// Saves the document where it was opened.
+/// Why a document is not written over itself when its reading has left something out: the rest stands nowhere else.
+std::string loss_refusal(const ReadNotes& notes);
+
+/// Saves the document where it was opened, unless something in it could not be read.
 Result<Done, std::string> save_organization(grants::OpenedPackage& document, const platform::DocumentLock& lock);
 
 /// The package goes to a new place; a package that stands there is replaced only when `force` is set, anything else

@@ -1,8 +1,8 @@
+#include "cli/remarks.h"
 #include "cli/verbs.h"
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -13,18 +13,12 @@ namespace quillfern::cli {
 constexpr int refused_status = 1;
 constexpr int wrong_command_line_status = 2;
 
-static void print_reason(std::string reason)
-{
-    std::replace(reason.begin(), reason.end(), '\n', ' ');
-    std::fprintf(stderr, "quillfern-cli: %s\n", reason.c_str());
-}
-
 /// A full disk behind standard output is a refusal like any other: half an answer must not look like a whole one.
 static int print_answer(const std::string& text)
 {
     if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
         return 0;
-    print_reason("The answer could not be written.");
+    print_remark("The answer could not be written.");
     return refused_status;
 }
 
@@ -51,13 +45,13 @@ static int run(int argc, char** argv)
     } catch (const CLI::Success& help_or_version) {
         return app.exit(help_or_version);
     } catch (const CLI::ParseError& error) {
-        print_reason(what_is_wrong(app, error) + " (quillfern-cli --help says more)");
+        print_remark(what_is_wrong(app, error) + " (quillfern-cli --help says more)");
         return wrong_command_line_status;
     }
     const Answer answer = chosen();
     if (answer)
         return print_answer(*answer);
-    print_reason(answer.error());
+    print_remark(answer.error());
     return refused_status;
 }
 

@@ -131,10 +131,16 @@ void add_year(CLI::App& verb, std::optional<std::int64_t>& year)
         ->option_text("YEAR");
 }
 
+static std::optional<std::int64_t> parse_count(const std::string& text)
+{
+    const std::optional<std::int64_t> number = parse_small_number(text);
+    return number && *number >= 0 ? number : std::nullopt;
+}
+
 void add_present(CLI::App& verb, std::int64_t& members)
 {
-    add_parsed(verb, "--present", members, "a number of members (up to 9999)",
-        "How many voting members are present, for the quorum", parse_small_number)
+    add_parsed(verb, "--present", members, "a number of members (0 to 9999)",
+        "How many voting members are present, for the quorum", parse_count)
         ->option_text("N");
 }
 

@@ -1,12 +1,12 @@
 #include "cli/input_file.h"
 #include "cli/json.h"
 #include "cli/options.h"
+#include "cli/remarks.h"
 #include "cli/text_table.h"
 #include "cli/verbs.h"
 #include "grants/csv_table.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <optional>
 
@@ -65,9 +65,8 @@ Answer run(const Asked& asked)
         return fail(asked.path + " has more than " + std::to_string(most_cells) + " cells.");
     ParsedCSV parsed = CSVReader::parse_and_tell(text, asked.delimiter, true);
     if (parsed.unclosedQuoteLine) {
-        std::fprintf(stderr,
-            "quillfern-cli: The quote that opens on line %zu is never closed; its row and what follows are left out.\n",
-            *parsed.unclosedQuoteLine);
+        print_note("The quote that opens on line " + std::to_string(*parsed.unclosedQuoteLine)
+            + " is never closed; its row and what follows are left out.");
     }
     const CSVTable table(std::move(parsed.rows));
     return asked.json ? json_text(table) : as_text(table);

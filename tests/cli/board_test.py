@@ -61,7 +61,7 @@ class Board(CommandLineTest):
         self.assertTrue((exported / "Read Me.txt").read_text().startswith("Elm Court\nThis is a Marrowind board file"))
         words = ("--today", "2026-11-21")
         self.assertEqual(self.json("board", exported, *words), self.json("board", organization, *words))
-        self.assertIn("already exists", self.refusal(1, "export", "board", organization, "--out", "Out.marrowind"))
+        self.assertIn("--force replaces it", self.refusal(1, "export", "board", organization, "--out", "Out.marrowind"))
         self.answer("export", "board", organization, "--out", "Out.marrowind", "--force")
 
     def test_refuses_in_words_what_is_no_board(self):
@@ -74,7 +74,17 @@ class Board(CommandLineTest):
         self.assertIn("Board.json", self.refusal(1, "board", "empty.marrowind"))
         (self.folder / "plain.marrowind").write_text("{}")
         self.assertIn("folder", self.refusal(1, "board", "plain.marrowind"))
-        self.refusal(2, "board", "empty.marrowind", "--present", "many")
+        for present in ("many", -1, 10000):
+            self.refusal(2, "board", "empty.marrowind", "--present", present)
+
+    def test_tells_of_the_boards_values_that_could_not_be_read(self):
+        file = {"board": dict(BOARD, seats="\x1b[2J"), "org": {"fiscalYearStartMonth": "July"}}
+        for words in (["board"], ["export", "board", "--out", "Out.marrowind"]):
+            for path in (self.package(file, name=f"{words[0]}.quillfern"),
+                         self.board_package(json.dumps(file["board"]), f"{words[0]}.marrowind")):
+                [note] = self.notes(*words, path, *(["--force"] if len(words) > 1 else []))
+                self.assertIn("seats", note)
+                self.assertNotIn("\x1b", note)
 
 
 if __name__ == "__main__":

@@ -68,6 +68,14 @@ class Check(CommandLineTest):
         warnings = self.json("check", self.package(file, ATTACHMENTS))["warnings"]
         self.assertTrue(any("org.fiscalYearStartMonth" in warning for warning in warnings), warnings)
 
+    def test_warns_of_ids_that_stand_for_two_records(self):
+        def repeat(file):
+            file["grants"][1]["id"] = AWARD
+            file["grants"][0]["payments"][1]["id"] = LATE_PAYMENT
+        warnings = self.json("check", self.package(changed(repeat)))["warnings"]
+        for path in ("grants[1].id", "grants[0].payments[1].id"):
+            self.assertTrue(any(warning.startswith(path) for warning in warnings), warnings)
+
     def test_is_readable(self):
         text = self.answer("check", self.package(organization(), ATTACHMENTS))
         for words in ("Despensa Ñandú", "lost.pdf", "stray.pdf", "grants[1].notes"):
@@ -93,6 +101,12 @@ class Reports(CommandLineTest):
         self.assertEqual((package / "Attachments" / "kept.pdf").read_bytes(), b"%PDF-1")
         self.assertEqual(json.loads((package / "Quillfern.json").read_text())["formatVersion"], 2)
         self.assertEqual([path.name for path in self.folder.iterdir()], [package.name])
+
+    def test_saves_nothing_over_what_could_not_be_read(self):
+        package = self.package(changed(unreadable_values), ATTACHMENTS)
+        for words in (["reports", package, "--grant", AWARD, "--regenerate", "--save"],
+                      ["export", "package", package, "--out", package, "--force"]):
+            self.assertRegex(self.refusal(1, *words), "Nothing was written: .*org.fiscalYearStartMonth")
 
     def test_is_readable(self):
         text = self.answer("reports", self.package(organization()), "--grant", AWARD, "--regenerate", "--lang", "es")
@@ -121,6 +135,14 @@ class Files(CommandLineTest):
         self.assertEqual({file.name: file.read_bytes() for file in (copy / "Attachments").iterdir()}, ATTACHMENTS)
         self.assertEqual(self.json("agenda", copy), self.json("agenda", package))
 
+    def test_a_copy_tells_of_what_could_not_be_read_and_gives_the_terminal_no_orders(self):
+        package = self.package(changed(unreadable_values))
+        notes = self.notes("export", "package", package, "--out", "Copy.quillfern")
+        self.assertTrue(any("org.fiscalYearStartMonth" in note for note in notes), notes)
+        shown = self.answer("agenda", package, "--today", TODAY) + self.answer("summary", package, "--today", TODAY)
+        for text in (shown, *notes, self.refusal(1, "agenda", "no\x1b[2J\u009bsuch")):
+            self.assertNotRegex(text, "[\x00-\x09\x0b-\x1f\x7f-\x9f]")
+
     def test_what_exists_is_replaced_only_when_forced(self):
         package = self.package(organization())
         file = self.folder / "letter.txt"
@@ -137,6 +159,11 @@ def changed(change):
     file = copy.deepcopy(organization())
     change(file)
     return file
+
+
+def unreadable_values(file):
+    file["org"]["fiscalYearStartMonth"] = "\x1b[2J"
+    file["grants"][0]["title"] = "Cold \x1b[31m\u009b1mstorage"
 
 
 # What is wrong with the organization file, and what the refusal must say about it.

@@ -44,6 +44,15 @@ class CommandLineTest(unittest.TestCase):
         self.assertEqual((run.returncode, run.stderr), (0, ""), words)
         return run.stdout
 
+    def notes(self, *words):
+        """What the program says beside an answer that it gives."""
+        run = self.run_program(*words)
+        self.assertEqual(run.returncode, 0, (words, run.stderr))
+        lines = run.stderr.splitlines()
+        for line in lines:
+            self.assertRegex(line, r"\Aquillfern-cli: note: ", words)
+        return lines
+
     def json(self, *words):
         return json.loads(self.answer(*words, "--json"))
 

@@ -94,7 +94,20 @@ def trace(document, way):
         raise Broken(f"the traced save fails: {done.stdout}")
     document.number += 1
     with open(log, encoding="utf-8", errors="replace") as lines:
-        return [tuple(line.rstrip("\n").split(None, 1)) for line in lines]
+        return whole_calls(line.rstrip("\n").split(None, 1) for line in lines)
+
+
+def whole_calls(lines):
+    """Puts together the calls whose lines another thread has split, at the place of their end."""
+    begun, calls = {}, []
+    for thread, call in lines:
+        if call.endswith("<unfinished ...>"):
+            begun[thread] = call.removesuffix("<unfinished ...>")
+            continue
+        if resumed := re.match(r"<\.\.\. \w+ resumed>(.*)", call):
+            call = begun.pop(thread, "") + resumed.group(1).lstrip()
+        calls.append((thread, re.sub(r"\)\s+= ", ") = ", call)))
+    return calls
 
 
 def is_start(call):
@@ -102,7 +115,10 @@ def is_start(call):
 
 
 def calls_of_a_save(document, way):
-    """For each system call by name: how often it is made before the save starts, and by its end."""
+    """The calls of the thread that saves, by name: their numbers from the start of the program.
+
+    A second thread writes the text into the tree that is being built, which is no document yet.
+    """
     lines = trace(document, way)
     main_thread = lines[0][0]
     before, total, started = {}, collections.Counter(), False
@@ -162,7 +178,7 @@ def flush_order(probe, way):
             elif synced:
                 unflushed.pop(synced.group(1), None)
                 parent_flushed = parent_flushed or (renamed and synced.group(1) == os.path.realpath(document.folder))
-            elif call.startswith("rename") and call.endswith("= 0"):
+            elif re.match(r'rename.*, "Pantry\.quillfern"(, \w+)?\) = 0$', call):
                 if unflushed:
                     raise Broken(f"renamed before these were flushed: {sorted(unflushed)}")
                 renamed, parent_flushed = True, False

@@ -9,6 +9,8 @@
 #include <QPixmap>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace quillfern::app {
 namespace {
 
@@ -16,7 +18,7 @@ using desktop::Role;
 using desktop::scaled;
 
 constexpr double list_margin = 10;
-constexpr int logo_pixels = 152; ///< a logo of 38 on a display of four times the density
+constexpr double logo_side = 38; ///< as the mark shows it
 
 QListView* make_list(QWidget* parent)
 {
@@ -65,8 +67,9 @@ void Sidebar::show_presentation(const SidebarPresentation& presentation)
 void Sidebar::set_logo(const QByteArray& png)
 {
     QPixmap logo;
+    const int side = static_cast<int>(std::lround(scaled(logo_side) * devicePixelRatioF()));
     if (!png.isEmpty() && logo.loadFromData(png, "PNG"))
-        logo = logo.scaled(logo_pixels, logo_pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+        logo = logo.scaled(side, side, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
     mark_->set_logo(logo);
 }
 

@@ -3,7 +3,9 @@
 #include "grants/grant_file_json.h"
 
 #include <algorithm>
-#include <future>
+#include <atomic>
+#include <cstring>
+#include <optional>
 #include <string_view>
 #include <thread>
 #include <vector>
@@ -11,13 +13,15 @@
 namespace quillfern::grants {
 namespace {
 
-constexpr std::size_t smallest_piece = 512 * 1024; ///< bytes; starting a thread for less is not worth it
-constexpr std::size_t most_pieces = 4;
+/// Bytes of a piece. What a small piece decodes to stays in the processor's cache and its memory is used again for the
+/// next one, which makes reading back in small pieces faster than in one go even on one core.
+constexpr std::size_t piece_size = 128 * 1024;
+constexpr unsigned most_readers = 4;
 
 // The writer puts one brace a line and escapes line breaks inside texts, so these stand nowhere else.
 constexpr std::string_view grants_opening = "\n  \"grants\": [\n";
-constexpr std::string_view grants_closing = "\n  ]";
-constexpr std::string_view grant_opening = "    {\n";
+constexpr std::string_view grants_closing = "\n  ],\n  \"org\": {\n"; ///< keys are sorted
+constexpr std::string_view grant_opening = "\n    {\n"; ///< the first grant of a piece has no line break before it
 constexpr std::string_view between_grants = "\n    },\n";
 
 /// The text without the elements of its list of grants, and these in consecutive pieces.
@@ -28,12 +32,9 @@ struct Pieces {
 
 std::vector<std::string_view> cut(std::string_view elements)
 {
-    const std::size_t wanted = std::clamp<std::size_t>(
-        elements.size() / smallest_piece, 1, std::min<std::size_t>(most_pieces, std::thread::hardware_concurrency()));
-    const std::size_t size = elements.size() / wanted;
     std::vector<std::string_view> pieces;
-    while (pieces.size() + 1 < wanted) {
-        const std::size_t at = elements.find(between_grants, std::min(size, elements.size()));
+    while (elements.size() > piece_size) {
+        const std::size_t at = elements.find(between_grants, piece_size);
         if (at == std::string_view::npos)
             break;
         const std::size_t comma = at + between_grants.size() - 2;
@@ -50,15 +51,19 @@ Pieces split(const std::string& text)
     if (opening == std::string::npos) // no grants
         return {text, {}};
     const std::size_t first = opening + grants_opening.size();
-    const std::size_t end = std::min(text.find(grants_closing, first), text.size());
+    const std::size_t end = std::max(first, std::min(text.rfind(grants_closing), text.size()));
     return {text.substr(0, first) + text.substr(end), cut(std::string_view(text).substr(first, end - first))};
 }
 
-std::size_t count_of(std::string_view word, std::string_view text)
+/// memmem skips ahead where std::string_view::find stops at each blank of the indentation.
+std::size_t count_of_grants(std::string_view piece)
 {
-    std::size_t count = 0;
-    for (std::size_t at = text.find(word); at != std::string_view::npos; at = text.find(word, at + word.size()))
-        count += at == 0 || text[at - 1] == '\n' ? 1 : 0;
+    std::size_t count = piece.starts_with('\n') ? 0 : 1;
+    while (const void* found = memmem(piece.data(), piece.size(), grant_opening.data(), grant_opening.size())) {
+        ++count;
+        const auto at = static_cast<std::size_t>(static_cast<const char*>(found) - piece.data());
+        piece.remove_prefix(at + grant_opening.size());
+    }
     return count;
 }
 
@@ -71,31 +76,60 @@ std::optional<GrantFile> read(std::string text)
     return std::move(read->file);
 }
 
-bool gives(std::string_view piece, std::vector<Shared<Grant>>::const_iterator first, std::size_t count)
+/// A piece and the grants that it has to give.
+struct Expectation {
+    std::string_view piece;
+    std::vector<Shared<Grant>>::const_iterator first;
+    std::size_t count;
+};
+
+bool holds(const Expectation& expectation)
 {
     std::string text;
-    text.reserve(piece.size() + 256);
-    text.append("{\"grants\": [").append(piece).append("]}");
+    text.reserve(expectation.piece.size() + 256);
+    text.append("{\"grants\": [").append(expectation.piece).append("]}");
     const std::optional<GrantFile> file = read(std::move(text));
-    return file && file->grants.size() == count && std::equal(file->grants.begin(), file->grants.end(), first);
+    return file && file->grants.size() == expectation.count
+        && std::equal(file->grants.begin(), file->grants.end(), expectation.first);
+}
+
+/// Absent when the pieces do not hold as many grants as there are.
+std::optional<std::vector<Expectation>> expectations(
+    const std::vector<std::string_view>& pieces, const std::vector<Shared<Grant>>& grants)
+{
+    std::vector<Expectation> all;
+    std::size_t first = 0;
+    for (const std::string_view piece : pieces) {
+        const std::size_t count = count_of_grants(piece);
+        if (count > grants.size() - first)
+            return std::nullopt;
+        all.push_back({piece, grants.begin() + static_cast<std::ptrdiff_t>(first), count});
+        first += count;
+    }
+    return first == grants.size() ? std::optional(std::move(all)) : std::nullopt;
 }
 
 bool gives_all(const std::vector<std::string_view>& pieces, const std::vector<Shared<Grant>>& grants)
 {
-    std::vector<std::future<bool>> readings;
-    std::size_t first = 0;
-    for (const std::string_view piece : pieces) {
-        const std::size_t count = count_of(grant_opening, piece);
-        if (count > grants.size() - first)
-            return false;
-        readings.push_back(
-            std::async(std::launch::async, gives, piece, grants.begin() + static_cast<std::ptrdiff_t>(first), count));
-        first += count;
+    const auto all = expectations(pieces, grants);
+    if (!all)
+        return false;
+    std::atomic<std::size_t> next = 0;
+    std::atomic<bool> fine = true;
+    const auto read_pieces = [&] {
+        for (std::size_t i = next++; i < all->size() && fine; i = next++)
+            if (!holds((*all)[i]))
+                fine = false;
+    };
+    const std::size_t readers =
+        std::min<std::size_t>(all->size(), std::min(std::thread::hardware_concurrency(), most_readers));
+    {
+        std::vector<std::jthread> others;
+        for (std::size_t i = 1; i < readers; ++i)
+            others.emplace_back(read_pieces);
+        read_pieces();
     }
-    bool all = first == grants.size();
-    for (std::future<bool>& reading : readings)
-        all = reading.get() && all;
-    return all;
+    return fine;
 }
 
 } // namespace

@@ -99,6 +99,26 @@ void AppWindow::find() { }
 
 void AppWindow::export_file(ExportKind) { }
 
+void AppWindow::show_help()
+{
+    application_.help_desk().show();
+}
+
+void AppWindow::show_help(HelpTopic topic)
+{
+    application_.help_desk().show(topic);
+}
+
+void AppWindow::email_support()
+{
+    application_.help_desk().email_support(this);
+}
+
+void AppWindow::check_for_updates()
+{
+    application_.help_desk().check_for_updates(this);
+}
+
 void AppWindow::show_about()
 {
     (new AboutDialog(this))->open();

@@ -30,6 +30,10 @@ public:
     void toggle_sidebar() override;
     void find() override;
     void export_file(ExportKind kind) override;
+    void show_help() override;
+    void show_help(HelpTopic topic) override;
+    void email_support() override;
+    void check_for_updates() override;
     void show_about() override;
 
 protected:

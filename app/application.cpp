@@ -43,7 +43,7 @@ void tell_notes(MainWindow& window)
 } // namespace
 
 Application::Application(DocumentSource& source, DayWatch::Clock clock, QObject* parent)
-    : QObject(parent), source_(source), day_watch_(std::move(clock))
+    : QObject(parent), source_(source), day_watch_(std::move(clock)), help_desk_(*this, model_)
 {
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "app/app_model.h"
 #include "app/day_watch.h"
 #include "app/document_source.h"
+#include "app/help_desk.h"
 
 #include <QList>
 #include <QObject>
@@ -37,6 +39,7 @@ public:
 
     const QList<MainWindow*>& windows() const { return windows_; }
     DayWatch& day_watch() { return day_watch_; }
+    HelpDesk& help_desk() { return help_desk_; }
 
 Q_SIGNALS:
     void window_shown(QWidget* window);
@@ -48,6 +51,8 @@ private:
 
     DocumentSource& source_;
     DayWatch day_watch_;
+    AppModel model_;
+    HelpDesk help_desk_;
     QList<MainWindow*> windows_;
     QPointer<StartWindow> start_;
 };

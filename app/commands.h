@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/export_kind.h"
+#include "app/help_topics.h"
 #include "app/sidebar_item.h"
 #include "desktop/command.h"
 
@@ -29,6 +30,10 @@ public:
     virtual void toggle_sidebar() = 0;
     virtual void find() = 0;
     virtual void export_file(ExportKind kind) = 0;
+    virtual void show_help() = 0; ///< on the topic that was shown last
+    virtual void show_help(HelpTopic topic) = 0;
+    virtual void email_support() = 0;
+    virtual void check_for_updates() = 0;
     virtual void show_about() = 0;
 
 protected:

@@ -1,6 +1,5 @@
 #include "desktop/alert.h"
 
-#include "desktop/icon_tile.h"
 #include "desktop/style.h"
 #include "desktop/text_label.h"
 
@@ -25,40 +24,47 @@ TextLabel* wrapped(const QString& text, TextStyle style, Role role, QWidget* par
 
 } // namespace
 
-Alert::Alert(const AlertWords& words, const QString& icon_name, const QString& destructive_verb, QWidget* parent)
-    : Sheet(parent)
+Alert::Alert(const AlertWords& words, const AlertForm& form, QWidget* parent) : Sheet(parent)
 {
     setObjectName(QStringLiteral("alert"));
     setWindowTitle(QStringLiteral("Quillfern"));
     setAccessibleName(words.title);
     setAccessibleDescription(words.message);
-    lay_out(words, icon_name, make_buttons(destructive_verb));
+    lay_out(words, form, make_buttons(form));
 }
 
-QLayout* Alert::make_buttons(const QString& destructive_verb)
+QPushButton* Alert::add_button(QBoxLayout* row, const QString& text, bool primary)
 {
-    const bool asks = !destructive_verb.isEmpty();
+    auto* button = new QPushButton(text, this);
+    set_button_kind(button, primary ? ButtonKind::primary : ButtonKind::normal);
+    button->setMinimumWidth(scaled(84));
+    row->addWidget(button);
+    return button;
+}
+
+QLayout* Alert::make_buttons(const AlertForm& form)
+{
+    const bool asks = !form.verb.isEmpty();
     auto* row = new QHBoxLayout;
     row->setSpacing(scaled(10));
     row->addStretch();
-    auto* safe = new QPushButton(asks ? QStringLiteral("Cancel") : QStringLiteral("OK"), this);
-    set_button_kind(safe, asks ? ButtonKind::normal : ButtonKind::primary);
-    safe->setMinimumWidth(scaled(84));
-    safe->setDefault(true);
-    safe->setFocus();
+    QPushButton* safe = add_button(row, asks ? QStringLiteral("Cancel") : QStringLiteral("OK"), !asks);
     connect(safe, &QPushButton::clicked, this, asks ? &QDialog::reject : &QDialog::accept);
-    row->addWidget(safe);
+    QPushButton* first = safe;
     if (asks) {
-        auto* verb = new QPushButton(destructive_verb, this);
-        set_button_kind(verb, ButtonKind::destructive);
-        verb->setAutoDefault(false);
+        QPushButton* verb = add_button(row, form.verb, !form.destructive);
+        if (form.destructive)
+            set_button_kind(verb, ButtonKind::destructive);
         connect(verb, &QPushButton::clicked, this, &QDialog::accept);
-        row->addWidget(verb);
+        first = form.destructive ? safe : verb;
+        verb->setAutoDefault(first == verb);
     }
+    first->setDefault(true);
+    first->setFocus();
     return row;
 }
 
-void Alert::lay_out(const AlertWords& words, const QString& icon_name, QLayout* buttons)
+void Alert::lay_out(const AlertWords& words, const AlertForm& form, QLayout* buttons)
 {
     auto* message = wrapped(words.message, TextStyle::body, Role::text2, this);
     message->setObjectName(QStringLiteral("alertMessage"));
@@ -73,7 +79,7 @@ void Alert::lay_out(const AlertWords& words, const QString& icon_name, QLayout* 
 
     auto* top = new QHBoxLayout;
     top->setSpacing(scaled(16));
-    top->addWidget(new IconTile(icon_name, scaled(34), IconTile::Tone::danger, this), 0, Qt::AlignTop);
+    top->addWidget(new IconTile(form.icon, scaled(34), form.tone, this), 0, Qt::AlignTop);
     top->addLayout(text);
 
     auto* all = new QVBoxLayout(this);
@@ -86,9 +92,24 @@ void Alert::lay_out(const AlertWords& words, const QString& icon_name, QLayout* 
 
 Alert* show_alert(const AlertWords& words, QWidget* parent, std::function<void()> closed)
 {
-    auto* alert = new Alert(words, QStringLiteral("warning"), {}, parent);
+    auto* alert = new Alert(words, {}, parent);
     if (closed)
         QObject::connect(alert, &QDialog::finished, alert, [closed = std::move(closed)] { closed(); });
+    alert->open();
+    return alert;
+}
+
+Alert* show_note(const AlertWords& words, const QString& icon, QWidget* parent)
+{
+    auto* alert = new Alert(words, {icon, IconTile::Tone::accent, {}, false}, parent);
+    alert->open();
+    return alert;
+}
+
+Alert* offer(const AlertWords& words, const AlertForm& form, QWidget* parent, std::function<void()> chosen)
+{
+    auto* alert = new Alert(words, form, parent);
+    QObject::connect(alert, &QDialog::accepted, alert, [chosen = std::move(chosen)] { chosen(); });
     alert->open();
     return alert;
 }
@@ -96,10 +117,10 @@ Alert* show_alert(const AlertWords& words, QWidget* parent, std::function<void()
 Alert* ask_before(
     const AlertWords& words, const QString& destructive_verb, QWidget* parent, std::function<void()> confirmed)
 {
-    auto* alert = new Alert(words, QStringLiteral("warning"), destructive_verb, parent);
-    QObject::connect(alert, &QDialog::accepted, alert, [confirmed = std::move(confirmed)] { confirmed(); });
-    alert->open();
-    return alert;
+    AlertForm form;
+    form.verb = destructive_verb;
+    form.destructive = true;
+    return offer(words, form, parent, std::move(confirmed));
 }
 
 } // namespace quillfern::desktop

@@ -17,7 +17,7 @@ struct StyleShape {
     QFont::Weight weight;
 };
 
-constexpr std::array<StyleShape, 13> shapes = {{
+constexpr std::array<StyleShape, 15> shapes = {{
     {24, 30, QFont::DemiBold},
     {18, 24, QFont::DemiBold},
     {16, 22, QFont::DemiBold},
@@ -31,6 +31,8 @@ constexpr std::array<StyleShape, 13> shapes = {{
     {13, 18, QFont::DemiBold},
     {12.5, 16, QFont::Normal},
     {12.5, 16, QFont::DemiBold},
+    {15.5, 25, QFont::Normal},
+    {17, 25, QFont::DemiBold},
 }};
 
 const StyleShape& shape(TextStyle style)

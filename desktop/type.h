@@ -20,6 +20,8 @@ enum class TextStyle {
     secondStrong, ///< how late or how soon, 13/18
     caption, ///< the sidebar's second lines, 12.5/16
     captionStrong, ///< badges, 12.5/16
+    reading, ///< running text, as in help, 15.5/25
+    readingStrong, ///< headings in running text, 17/25
 };
 
 /// Inter (Inter Display for titles) where it is installed, else the desktop's own font.

@@ -42,7 +42,9 @@ TEST(Commands, WithoutADocumentOnlyThoseThatNeedNoneCanAct)
     for (const Command& command : commands())
         if (is_enabled(command, {.hasDocument = false}))
             enabled.push_back(command.row.id);
-    EXPECT_THAT(enabled, ElementsAre("open", "openSample", "closeWindow", "quit", "minimize", "about"));
+    EXPECT_THAT(enabled,
+        ElementsAre("open", "openSample", "closeWindow", "quit", "minimize", "help", "helpReportingDates",
+            "helpMotions", "helpImport", "helpLimits", "emailSupport", "checkForUpdates", "about"));
     EXPECT_TRUE(is_enabled(*find_command("showToday"), {.hasDocument = true}));
     EXPECT_FALSE(is_enabled(*find_command("showCalendar"), {.hasDocument = true}));
 }

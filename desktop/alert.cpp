@@ -1,6 +1,5 @@
 #include "desktop/alert.h"
 
-#include "desktop/style.h"
 #include "desktop/text_label.h"
 
 #include <QBoxLayout>
@@ -24,47 +23,54 @@ TextLabel* wrapped(const QString& text, TextStyle style, Role role, QWidget* par
 
 } // namespace
 
-Alert::Alert(const AlertWords& words, const AlertForm& form, QWidget* parent) : Sheet(parent)
+Alert::Alert(const AlertWords& words, const AlertOffer& offer, QWidget* parent) : Sheet(parent)
 {
     setObjectName(QStringLiteral("alert"));
     setWindowTitle(QStringLiteral("Quillfern"));
     setAccessibleName(words.title);
     setAccessibleDescription(words.message);
-    lay_out(words, form, make_buttons(form));
+    lay_out(words, offer);
 }
 
-QPushButton* Alert::add_button(QBoxLayout* row, const QString& text, bool primary)
+QPushButton* Alert::make_button(const QString& text, ButtonKind kind, int result)
 {
     auto* button = new QPushButton(text, this);
-    set_button_kind(button, primary ? ButtonKind::primary : ButtonKind::normal);
+    set_button_kind(button, kind);
     button->setMinimumWidth(scaled(84));
-    row->addWidget(button);
+    button->setAutoDefault(kind != ButtonKind::destructive);
+    connect(button, &QPushButton::clicked, this, [this, result] { done(result); });
     return button;
 }
 
-QLayout* Alert::make_buttons(const AlertForm& form)
+/// Destructive choices stand apart at the left, unless there is nothing else to choose; the primary one is the last.
+QLayout* Alert::make_buttons(const std::vector<AlertChoice>& choices)
 {
-    const bool asks = !form.verb.isEmpty();
+    QPushButton* first = choices.empty() ? make_button(QStringLiteral("OK"), ButtonKind::primary, Rejected)
+                                         : make_button(QStringLiteral("Cancel"), ButtonKind::normal, Rejected);
+    first->setObjectName(QStringLiteral("alertCancel"));
     auto* row = new QHBoxLayout;
     row->setSpacing(scaled(10));
     row->addStretch();
-    QPushButton* safe = add_button(row, asks ? QStringLiteral("Cancel") : QStringLiteral("OK"), !asks);
-    connect(safe, &QPushButton::clicked, this, asks ? &QDialog::reject : &QDialog::accept);
-    QPushButton* first = safe;
-    if (asks) {
-        QPushButton* verb = add_button(row, form.verb, !form.destructive);
-        if (form.destructive)
-            set_button_kind(verb, ButtonKind::destructive);
-        connect(verb, &QPushButton::clicked, this, &QDialog::accept);
-        first = form.destructive ? safe : verb;
-        verb->setAutoDefault(first == verb);
+    row->addWidget(first);
+    QPushButton* primary = nullptr;
+    for (std::size_t i = 0; i < choices.size(); ++i) {
+        const ButtonKind kind = choices[i].kind;
+        QPushButton* button = make_button(choices[i].text, kind, static_cast<int>(i) + 1);
+        if (kind == ButtonKind::primary)
+            primary = button;
+        else if (kind == ButtonKind::destructive && choices.size() > 1)
+            row->insertWidget(0, button);
+        else
+            row->addWidget(button);
     }
+    if (primary)
+        row->addWidget(first = primary);
     first->setDefault(true);
     first->setFocus();
     return row;
 }
 
-void Alert::lay_out(const AlertWords& words, const AlertForm& form, QLayout* buttons)
+void Alert::lay_out(const AlertWords& words, const AlertOffer& offer)
 {
     auto* message = wrapped(words.message, TextStyle::body, Role::text2, this);
     message->setObjectName(QStringLiteral("alertMessage"));
@@ -79,39 +85,45 @@ void Alert::lay_out(const AlertWords& words, const AlertForm& form, QLayout* but
 
     auto* top = new QHBoxLayout;
     top->setSpacing(scaled(16));
-    top->addWidget(new IconTile(form.icon, scaled(34), form.tone, this), 0, Qt::AlignTop);
+    top->addWidget(new IconTile(offer.icon, scaled(34), offer.tone, this), 0, Qt::AlignTop);
     top->addLayout(text);
+    top->addStretch(); // a long row of buttons makes the alert wider than its words
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(scaled(22), scaled(20), scaled(20), scaled(18));
     all->setSpacing(scaled(20));
     all->setSizeConstraint(QLayout::SetFixedSize);
     all->addLayout(top);
-    all->addLayout(buttons);
+    all->addLayout(make_buttons(offer.choices));
+}
+
+Alert* choose(const AlertWords& words, const AlertOffer& offer, QWidget* parent, std::function<void()> cancelled)
+{
+    auto* alert = new Alert(words, offer, parent);
+    QObject::connect(
+        alert, &QDialog::finished, alert, [choices = offer.choices, cancelled = std::move(cancelled)](int result) {
+            const auto& answer = result > 0 ? choices[static_cast<std::size_t>(result) - 1].chosen : cancelled;
+            if (answer)
+                answer();
+        });
+    alert->open();
+    return alert;
 }
 
 Alert* show_alert(const AlertWords& words, QWidget* parent, std::function<void()> closed)
 {
-    auto* alert = new Alert(words, {}, parent);
-    if (closed)
-        QObject::connect(alert, &QDialog::finished, alert, [closed = std::move(closed)] { closed(); });
-    alert->open();
-    return alert;
+    return choose(words, {}, parent, std::move(closed));
 }
 
 Alert* show_note(const AlertWords& words, const QString& icon, QWidget* parent)
 {
-    auto* alert = new Alert(words, {icon, IconTile::Tone::accent, {}, false}, parent);
-    alert->open();
-    return alert;
+    return choose(words, {icon, IconTile::Tone::accent, {}}, parent);
 }
 
 Alert* offer(const AlertWords& words, const AlertForm& form, QWidget* parent, std::function<void()> chosen)
 {
-    auto* alert = new Alert(words, form, parent);
-    QObject::connect(alert, &QDialog::accepted, alert, [chosen = std::move(chosen)] { chosen(); });
-    alert->open();
-    return alert;
+    const ButtonKind kind = form.destructive ? ButtonKind::destructive : ButtonKind::primary;
+    return choose(words, {form.icon, form.tone, {{form.verb, kind, std::move(chosen)}}}, parent);
 }
 
 Alert* ask_before(

@@ -24,6 +24,8 @@ void IconTile::paintEvent(QPaintEvent*)
         return paint_icon_tile(painter, rect(), icon_name_, Role::neutral, Role::text2);
     case Tone::accent:
         return paint_icon_tile(painter, rect(), icon_name_, Role::accentTint, Role::accent);
+    case Tone::warn:
+        return paint_icon_tile(painter, rect(), icon_name_, Role::warnTint, Role::warn);
     case Tone::danger:
         return paint_icon_tile(painter, rect(), icon_name_, Role::dangerTint, Role::danger);
     }

@@ -9,7 +9,7 @@ namespace quillfern::desktop {
 class IconTile : public QWidget {
     Q_OBJECT
 public:
-    enum class Tone { plain, accent, danger };
+    enum class Tone { plain, accent, warn, danger };
 
     IconTile(QString icon_name, int side, Tone tone, QWidget* parent = nullptr);
 

@@ -4,7 +4,8 @@
 
 namespace quillfern::desktop {
 
-/// A dialog above its window only, on the colour of cards. It deletes itself once it is closed.
+/// A dialog above its window only, on the colour of cards, in the window's upper part; the window is shaded meanwhile.
+/// It deletes itself once it is closed.
 ///
 /// Open it with open(), never exec(): a nested event loop cuts off screen readers.
 class Sheet : public QDialog {
@@ -13,8 +14,13 @@ public:
     /// `parent` may be null when no window is open.
     explicit Sheet(QWidget* parent);
 
+    void setVisible(bool visible) override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void place();
 };
 
 } // namespace quillfern::desktop

@@ -1,121 +1,106 @@
 #include "desktop/package_dialog.h"
 
+#include "desktop/alert.h"
+#include "desktop/last_folder.h"
+#include "desktop/scrim.h"
+#include "desktop/type.h"
+
 #include <QAbstractItemView>
 #include <QDir>
-#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
-#include <QSortFilterProxyModel>
 #include <QTreeView>
 
 #include <utility>
 
 namespace quillfern::desktop {
-namespace {
 
-bool has_suffix(const QFileInfo& info, const QString& suffix)
-{
-    return info.isDir() && info.suffix().compare(suffix, Qt::CaseInsensitive) == 0;
-}
-
-/// Shows folders and packages only, packages as childless files after the folders.
-class PackageFilter : public QSortFilterProxyModel {
-public:
-    PackageFilter(QString suffix, QObject* parent) : QSortFilterProxyModel(parent), suffix_(std::move(suffix)) { }
-
-    bool hasChildren(const QModelIndex& parent) const override
-    {
-        return !is_package(mapToSource(parent)) && QSortFilterProxyModel::hasChildren(parent);
-    }
-
-    int rowCount(const QModelIndex& parent) const override
-    {
-        return is_package(mapToSource(parent)) ? 0 : QSortFilterProxyModel::rowCount(parent);
-    }
-
-    QVariant data(const QModelIndex& index, int role) const override
-    {
-        if (role == Qt::DecorationRole && index.column() == 0 && is_package(mapToSource(index)))
-            return QFileIconProvider().icon(QFileIconProvider::File);
-        return QSortFilterProxyModel::data(index, role);
-    }
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex& parent) const override
-    {
-        const QFileInfo info = info_of(sourceModel()->index(row, 0, parent));
-        return info.isDir();
-    }
-
-    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override
-    {
-        const bool left_package = is_package(left);
-        if (left_package != is_package(right))
-            return !left_package;
-        const QString a = left.data().toString();
-        const QString b = right.data().toString();
-        return QString::localeAwareCompare(a, b) < 0;
-    }
-
-private:
-    QFileInfo info_of(const QModelIndex& index) const
-    {
-        const auto* files = qobject_cast<const QFileSystemModel*>(sourceModel());
-        return files && index.isValid() ? files->fileInfo(index) : QFileInfo();
-    }
-
-    bool is_package(const QModelIndex& index) const { return has_suffix(info_of(index), suffix_); }
-
-    QString suffix_;
-};
-
-} // namespace
-
-PackageOpenDialog::PackageOpenDialog(QString suffix, const QString& kind, QWidget* parent)
+PackageDialog::PackageDialog(QString suffix, PackageModel::Listing listing, QWidget* parent)
     : QFileDialog(parent), suffix_(std::move(suffix))
 {
-    setObjectName(QStringLiteral("openDialog"));
     setOption(QFileDialog::DontUseNativeDialog); // first: the options below then reach the toolkit's own dialog
-    setFileMode(QFileDialog::Directory);
-    setOption(QFileDialog::ShowDirsOnly, false);
-    setWindowTitle(QStringLiteral("Open"));
-    setLabelText(QFileDialog::Accept, QStringLiteral("Open"));
-    setLabelText(QFileDialog::FileType, QStringLiteral("Shown:"));
-    setNameFilter(QStringLiteral("%1 (*.%2)").arg(kind, suffix_));
-    setProxyModel(new PackageFilter(suffix_, this));
+    setIconProvider(file_icons(suffix_));
+    setProxyModel(new PackageModel(suffix_, listing, this));
+    setDirectory(last_folder(FolderOf::documents));
+    resize(scaled(760), scaled(480));
     setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
     setAttribute(Qt::WA_DeleteOnClose);
+    Scrim::put_under(this);
     last_folder_ = directory().absolutePath();
+    field_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    give_room_to_names();
     for (QAbstractItemView* view : findChildren<QAbstractItemView*>())
         if (qobject_cast<QListView*>(view) || qobject_cast<QTreeView*>(view)) {
             view->installEventFilter(this);
             view->viewport()->installEventFilter(this);
         }
     connect(this, &QFileDialog::directoryEntered, this, [this](const QString& folder) {
-        if (!is_package(folder)) {
+        const QString package = package_around(folder, suffix_);
+        if (package.isEmpty()) {
             last_folder_ = folder;
             return;
         }
         setDirectory(last_folder_);
-        choose(folder);
+        activate_package(package);
     });
 }
 
-bool PackageOpenDialog::is_package(const QString& path) const
+void PackageDialog::give_room_to_names()
 {
-    return has_suffix(QFileInfo(path), suffix_);
+    auto* table = findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (!table)
+        return;
+    table->header()->setStretchLastSection(false);
+    table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
-QString PackageOpenDialog::current_path(const QAbstractItemView* view) const
+QString PackageDialog::current_path(const QAbstractItemView* view) const
 {
     const QModelIndex index = view->currentIndex();
     return index.siblingAtColumn(0).data(QFileSystemModel::FilePathRole).toString();
 }
 
-bool PackageOpenDialog::eventFilter(QObject* watched, QEvent* event)
+/// The field alone counts: a click on an entry puts its name there, and a typed name that the list does not show leaves
+/// the toolkit's own selection somewhere else.
+QString PackageDialog::named_path() const
+{
+    QString name = field_->text();
+    if (name == QLatin1String("~") || name.startsWith(QLatin1String("~/")))
+        name.replace(0, 1, QDir::homePath());
+    return QDir::cleanPath(directory().absoluteFilePath(name));
+}
+
+void PackageDialog::enter(const QString& folder)
+{
+    setDirectory(folder);
+    field_->clear();
+}
+
+bool PackageDialog::can_hold_files(const QString& folder)
+{
+    const QString package = package_around(folder, suffix_);
+    if (!package.isEmpty())
+        refuse(QStringLiteral("“%1” is a file, not a folder").arg(QFileInfo(package).fileName()),
+            QStringLiteral("Choose a folder beside it."));
+    else if (!QFileInfo(folder).isDir())
+        refuse(QStringLiteral("There is no folder “%1”").arg(QFileInfo(folder).fileName()),
+            QStringLiteral("Choose a folder that is there, or make a new one."));
+    else
+        return true;
+    return false;
+}
+
+void PackageDialog::refuse(const QString& title, const QString& message)
+{
+    show_alert({title, message, {}}, this);
+}
+
+bool PackageDialog::eventFilter(QObject* watched, QEvent* event)
 {
     auto* view = qobject_cast<QAbstractItemView*>(watched);
     if (!view)
@@ -125,27 +110,70 @@ bool PackageOpenDialog::eventFilter(QObject* watched, QEvent* event)
         const int key = static_cast<QKeyEvent*>(event)->key();
         opens = key == Qt::Key_Return || key == Qt::Key_Enter;
     }
-    if (view && opens && is_package(current_path(view))) {
-        choose(current_path(view));
+    if (view && opens && is_package(current_path(view), suffix_)) {
+        activate_package(current_path(view));
         return true;
     }
     return QFileDialog::eventFilter(watched, event);
 }
 
-void PackageOpenDialog::accept()
+PackageOpenDialog::PackageOpenDialog(const QString& suffix, const QString& kind, QWidget* parent)
+    : PackageDialog(suffix, PackageModel::Listing::packages, parent)
 {
-    const QStringList chosen = selectedFiles();
-    if (chosen.size() == 1 && is_package(chosen.front()))
-        return choose(chosen.front());
-    if (chosen.size() == 1 && QFileInfo(chosen.front()).isDir())
-        return setDirectory(chosen.front());
-    QFileDialog::accept();
+    setObjectName(QStringLiteral("openDialog"));
+    setFileMode(QFileDialog::Directory);
+    setOption(QFileDialog::ShowDirsOnly, false);
+    setWindowTitle(QStringLiteral("Open"));
+    setLabelText(QFileDialog::FileName, QStringLiteral("Name:"));
+    setLabelText(QFileDialog::Accept, QStringLiteral("Open"));
+    setLabelText(QFileDialog::FileType, QStringLiteral("Shown:"));
+    setNameFilter(QStringLiteral("%1 (*.%2)").arg(kind, suffix));
 }
 
-void PackageOpenDialog::choose(const QString& path)
+void PackageOpenDialog::accept()
 {
+    const QString path = named_path();
+    const QString package = package_around(path, suffix());
+    if (!package.isEmpty())
+        return activate_package(package);
+    if (QFileInfo(path).isDir())
+        return enter(path);
+    refuse(QStringLiteral("There is no file “%1”").arg(QFileInfo(path).fileName()),
+        QStringLiteral("Choose a file that is there."));
+}
+
+void PackageOpenDialog::activate_package(const QString& path)
+{
+    remember_folder(FolderOf::documents, path);
     QDialog::accept();
     Q_EMIT package_chosen(path);
+}
+
+FolderChooser::FolderChooser(const QString& suffix, const QString& title, const QString& verb, QWidget* parent)
+    : PackageDialog(suffix, PackageModel::Listing::folders, parent)
+{
+    setObjectName(QStringLiteral("folderChooser"));
+    setFileMode(QFileDialog::Directory);
+    setWindowTitle(title);
+    setLabelText(QFileDialog::FileName, QStringLiteral("Folder:"));
+    setLabelText(QFileDialog::Accept, verb);
+    for (const char* only_choice : {"fileTypeLabel", "fileTypeCombo"})
+        if (auto* widget = findChild<QWidget*>(QLatin1String(only_choice)))
+            widget->hide();
+}
+
+void FolderChooser::accept()
+{
+    const QString folder = named_path();
+    if (!can_hold_files(folder))
+        return;
+    QDialog::accept();
+    Q_EMIT folder_chosen(folder);
+}
+
+void FolderChooser::activate_package(const QString& path)
+{
+    can_hold_files(path); // which says why not
 }
 
 } // namespace quillfern::desktop

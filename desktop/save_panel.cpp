@@ -1,26 +1,12 @@
 #include "desktop/save_panel.h"
 
-#include "desktop/type.h"
-
-#include <QDir>
 #include <QFileInfo>
-#include <QSettings>
-#include <QStandardPaths>
+#include <QLineEdit>
 
 namespace quillfern::desktop {
 namespace {
 
-const QString folder_key = QStringLiteral("save/folder");
-
-QString last_folder()
-{
-    const QString folder = QSettings().value(folder_key).toString();
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    for (const QString& candidate : {folder, documents})
-        if (!candidate.isEmpty() && QFileInfo(candidate).isDir())
-            return candidate;
-    return QDir::homePath();
-}
+const QString package_suffix = QStringLiteral("quillfern");
 
 QString with_suffix(const QString& path, const QString& suffix)
 {
@@ -30,24 +16,60 @@ QString with_suffix(const QString& path, const QString& suffix)
 } // namespace
 
 SavePanel::SavePanel(const QString& kind, const QString& suffix, const QString& name, QWidget* parent)
-    : QFileDialog(parent)
+    : SavePanel({kind, suffix, name, FolderOf::exports, PackageModel::Listing::files}, parent)
 {
     setObjectName(QStringLiteral("savePanel"));
-    setOption(DontUseNativeDialog); // first: the options below then reach the toolkit's own dialog
-    setOption(DontConfirmOverwrite);
+}
+
+SavePanel::SavePanel(const Saved& saved, QWidget* parent)
+    : PackageDialog(package_suffix, saved.listing, parent), saved_(saved)
+{
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
     setWindowTitle(QStringLiteral("Save"));
-    setNameFilter(QStringLiteral("%1 (*.%2)").arg(kind, suffix));
-    resize(scaled(760), scaled(480));
-    setDirectory(last_folder());
-    selectFile(name);
-    setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
-    setAttribute(Qt::WA_DeleteOnClose);
-    connect(this, &QFileDialog::fileSelected, this, [this, suffix](const QString& chosen) {
-        QSettings().setValue(folder_key, QFileInfo(chosen).absolutePath());
-        Q_EMIT path_chosen(with_suffix(chosen, suffix));
+    setLabelText(FileName, QStringLiteral("Name:"));
+    setLabelText(FileType, QStringLiteral("Shown:"));
+    setNameFilter(QStringLiteral("%1 (*.%2)").arg(saved.kind, saved.suffix));
+    setDirectory(last_folder(saved.folder));
+    selectFile(with_suffix(saved.name, saved.suffix));
+}
+
+/// A name that is a folder's leads into it, as in every save panel.
+void SavePanel::accept()
+{
+    const QString named = named_path();
+    if (name_field()->text().isEmpty())
+        return;
+    if (QFileInfo(named).isDir() && !is_package(named, suffix()))
+        return enter(named);
+    const QString target = with_suffix(named, saved_.suffix);
+    if (!can_hold_files(QFileInfo(target).path()))
+        return;
+    remember_folder(saved_.folder, target);
+    QDialog::accept();
+    Q_EMIT path_chosen(target);
+}
+
+void SavePanel::activate_package(const QString& path)
+{
+    can_hold_files(path); // which says why not
+}
+
+PackageSavePanel::PackageSavePanel(const QString& kind, const QString& name, const QString& folder, QWidget* parent)
+    : SavePanel({kind, package_suffix, name, FolderOf::documents, PackageModel::Listing::packages}, parent)
+{
+    setObjectName(QStringLiteral("packageSavePanel"));
+    if (QFileInfo(folder).isDir())
+        setDirectory(folder);
+    connect(this, &QFileDialog::currentChanged, this, [this](const QString& path) {
+        if (is_package(path, suffix()))
+            PackageSavePanel::activate_package(path);
     });
+}
+
+void PackageSavePanel::activate_package(const QString& path)
+{
+    name_field()->setText(QFileInfo(path).fileName());
 }
 
 } // namespace quillfern::desktop

@@ -198,12 +198,13 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     }
 }
 
-/// The sign that a bar has more than fits is asked for by every menu bar, whether it shows or not; the toolkit's own
-/// picture would load a plug-in at each start.
+/// Our own icons for what the toolkit's dialogs show. The sign that a bar has more than fits is among them for speed:
+/// every menu bar asks for it, whether it shows or not, and the toolkit's own picture would load a plug-in at each
+/// start.
 QIcon Style::standardIcon(StandardPixmap standard_icon, const QStyleOption* option, const QWidget* widget) const
 {
-    if (standard_icon == SP_ToolBarHorizontalExtensionButton || standard_icon == SP_ToolBarVerticalExtensionButton)
-        return line_icon(QStringLiteral("more"));
+    if (const char* name = style::icon_name(standard_icon))
+        return line_icon(QLatin1String(name));
     return QProxyStyle::standardIcon(standard_icon, option, widget);
 }
 

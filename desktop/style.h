@@ -63,5 +63,7 @@ void draw_menu_item(const QStyleOptionMenuItem& option, QPainter& painter);
 QSize menu_item_size(const QStyleOptionMenuItem& option);
 void draw_scroll_bar(const QStyleOptionSlider& option, const QRect& thumb, QPainter& painter);
 
+const char* icon_name(QStyle::StandardPixmap standard_icon); ///< null: the toolkit's own picture
+
 } // namespace style
 } // namespace quillfern::desktop

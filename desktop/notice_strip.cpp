@@ -101,8 +101,8 @@ void NoticeStrip::paintEvent(QPaintEvent*)
     }
     const int side = scaled(icon_side);
     const int words = sentence_->heightForWidth(sentence_->width()); // centred in the label
-    const int first_line =
-        sentence_->geometry().center().y() - words / 2 + sentence_->contentsMargins().top() + line_spacing() / 2;
+    const int first_line = sentence_->geometry().center().y() - words / 2 + sentence_->contentsMargins().top()
+        + (line_spacing() + 3) / 2; // small letters stand below the middle of their line
     const QPoint corner(scaled(shape_ == Shape::bar ? 28 : 16), first_line - side / 2);
     painter.drawPixmap(corner, icon_pixmap(icon_name_, line, side, devicePixelRatioF()));
 }

@@ -41,8 +41,10 @@ void Style::drawPrimitive(
     case PE_FrameStatusBarItem:
     case PE_FrameLineEdit:
         return;
-    case PE_PanelLineEdit:
-        return style::draw_field_frame(*option, *painter);
+    case PE_PanelLineEdit: // the one inside another field has no frame of its own
+        if (as<QStyleOptionFrame>(option).lineWidth > 0)
+            style::draw_field_frame(*option, *painter);
+        return;
     case PE_IndicatorCheckBox:
         return style::draw_check_box(*option, *painter);
     case PE_PanelMenu:
@@ -103,6 +105,8 @@ void Style::drawComplexControl(
         return style::draw_tool_button(as<QStyleOptionToolButton>(option), *painter);
     case CC_ComboBox:
         return style::draw_combo_box(as<QStyleOptionComboBox>(option), *painter);
+    case CC_SpinBox: // ours have no buttons: the arrow keys step
+        return style::draw_field_frame(*option, *painter);
     case CC_ScrollBar: {
         const QRect thumb = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
         return style::draw_scroll_bar(as<QStyleOptionSlider>(option), thumb, *painter);
@@ -121,6 +125,7 @@ QSize Style::sizeFromContents(
     case CT_ToolButton:
         return style::tool_button_size(as<QStyleOptionToolButton>(option));
     case CT_LineEdit:
+    case CT_SpinBox:
         return {contents.width(), scaled(34)};
     case CT_ComboBox:
         return {contents.width() + scaled(46), scaled(34)};

@@ -1,7 +1,6 @@
 #include "desktop/switch_button.h"
 
 #include "desktop/painters.h"
-#include "desktop/type.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -16,7 +15,8 @@ constexpr double text_gap = 12;
 
 } // namespace
 
-SwitchButton::SwitchButton(const QString& text, QWidget* parent) : QAbstractButton(parent)
+SwitchButton::SwitchButton(const QString& text, QWidget* parent, TextStyle style)
+    : QAbstractButton(parent), style_(style)
 {
     setText(text);
     setCheckable(true);
@@ -26,7 +26,7 @@ SwitchButton::SwitchButton(const QString& text, QWidget* parent) : QAbstractButt
 
 QSize SwitchButton::sizeHint() const
 {
-    const int words = QFontMetrics(text_font(TextStyle::bodyMedium)).horizontalAdvance(text()) + 1;
+    const int words = QFontMetrics(text_font(style_)).horizontalAdvance(text()) + 1;
     return {scaled(track_width) + scaled(text_gap) + words, scaled(28)};
 }
 
@@ -40,8 +40,8 @@ void SwitchButton::paintEvent(QPaintEvent*)
     const int side = high - 2 * scaled(knob_gap);
     const int x = isChecked() ? track.right() + 1 - scaled(knob_gap) - side : track.left() + scaled(knob_gap);
     paint_box(painter, QRect(x, track.top() + scaled(knob_gap), side, side), side / 2.0, color(Role::onAccent));
-    draw_line(painter, rect().adjusted(track.width() + scaled(text_gap), 0, 0, 0), text(),
-        text_font(TextStyle::bodyMedium), isEnabled() ? Role::text : Role::text3);
+    draw_line(painter, rect().adjusted(track.width() + scaled(text_gap), 0, 0, 0), text(), text_font(style_),
+        isEnabled() ? Role::text : Role::text3);
 }
 
 } // namespace quillfern::desktop

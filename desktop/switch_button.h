@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/type.h"
+
 #include <QAbstractButton>
 
 namespace quillfern::desktop {
@@ -8,12 +10,15 @@ namespace quillfern::desktop {
 class SwitchButton : public QAbstractButton {
     Q_OBJECT
 public:
-    explicit SwitchButton(const QString& text, QWidget* parent = nullptr);
+    explicit SwitchButton(const QString& text, QWidget* parent = nullptr, TextStyle style = TextStyle::bodyMedium);
 
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    TextStyle style_;
 };
 
 } // namespace quillfern::desktop

@@ -6,7 +6,6 @@
 #include "desktop/text_label.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
@@ -71,12 +70,11 @@ void GeneralSettings::lay_out()
     add_settings_row(column, QStringLiteral("Prepared by"), prepared_by_, {},
         QStringLiteral("Prepared by (client status reports): your name and business, as printed."));
     add_settings_rule(column);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(scaled(12));
-    row->addWidget(welcome_);
-    row->addWidget(welcome_hint_);
-    row->addStretch();
-    column->addLayout(row);
+    auto* welcome = new QVBoxLayout;
+    welcome->setSpacing(scaled(4));
+    welcome->addWidget(welcome_, 0, Qt::AlignLeft);
+    welcome->addWidget(welcome_hint_);
+    column->addLayout(welcome);
     column->addStretch();
 }
 

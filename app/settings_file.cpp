@@ -52,11 +52,13 @@ QString for_reader(const QString& path)
 
 SettingsFile::SettingsFile(const QString& path, QObject* parent) : QObject(parent), path_(path)
 {
-    if (QFileInfo::exists(path_) && !can_be_used(path_))
-        at_start_ = clear_the_way();
-    if (!QFileInfo::exists(path_) || can_be_used(path_))
+    bool usable = !QFileInfo::exists(path_) || can_be_used(path_);
+    if (!usable) {
+        problem_ = at_start_ = clear_the_way();
+        usable = !QFileInfo::exists(path_);
+    }
+    if (usable)
         stored_ = std::make_unique<QSettings>(path_, QSettings::IniFormat);
-    problem_ = at_start_;
 }
 
 QString SettingsFile::default_path()

@@ -2,15 +2,17 @@
 
 #include "app/about_dialog.h"
 #include "app/application.h"
+#include "app/close_window_action.h"
 #include "app/main_window.h"
+#include "app/recent_menu.h"
 #include "desktop/menu_builder.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMimeData>
+#include <QUndoStack>
 #include <QUrl>
 
 namespace quillfern::app {
@@ -38,16 +40,62 @@ AppWindow::AppWindow(Application& application) : application_(application)
     setAcceptDrops(true);
     const auto run = [this](std::string_view id) { find_command(id)->act(*this); };
     menus_ = std::make_unique<desktop::WindowMenus>(*this, command_rows(), run);
+    recent_ = new QMenu(QStringLiteral("Open Recent"), this);
+    QMenu* file = menus_->menu(desktop::MenuId::file);
+    file->insertMenu(menus_->action("openSample"), recent_);
+    QMenu* edit = menus_->menu(desktop::MenuId::edit);
+    connect(file, &QMenu::aboutToShow, this, &AppWindow::list_recent_documents);
+    connect(edit, &QMenu::aboutToShow, this, &AppWindow::open_edit_menu);
+    // The command that was chosen is given after the menu has closed.
+    connect(edit, &QMenu::aboutToHide, this, &AppWindow::close_edit_menu, Qt::QueuedConnection);
     connect(menus_->menu(desktop::MenuId::window), &QMenu::aboutToShow, this, &AppWindow::list_windows);
-    update_commands({});
+    AppWindow::update_commands();
 }
 
 AppWindow::~AppWindow() = default;
 
-void AppWindow::update_commands(const CommandState& state)
+void AppWindow::update_commands()
 {
+    CommandState state = command_state();
+    state.text = text_;
+    state.canUndo = state.canUndo || text_.undo;
+    state.canRedo = state.canRedo || text_.redo;
     menus_->update([&state](std::string_view id) { return is_offered(*find_command(id), state); },
         [&state](std::string_view id) { return is_enabled(*find_command(id), state); });
+    name_steps();
+}
+
+/// A step of the document is named; what a field takes back is not.
+void AppWindow::name_steps()
+{
+    QUndoStack* steps = undo_manager();
+    const auto words = [](const QString& verb, const QString& step) {
+        return step.isEmpty() ? verb
+                              : verb + QLatin1Char(' ') + QString(step).replace(QLatin1Char('&'), QLatin1String("&&"));
+    };
+    menus_->action("undo")->setText(
+        words(QStringLiteral("Undo"), steps && !text_.undo ? steps->undoText() : QString()));
+    menus_->action("redo")->setText(
+        words(QStringLiteral("Redo"), steps && !text_.redo ? steps->redoText() : QString()));
+}
+
+/// Fields have the keys of these commands to themselves; the menu needs to know what it can do only while it is open.
+void AppWindow::open_edit_menu()
+{
+    text_ = desktop::text_abilities(focusWidget());
+    update_commands();
+}
+
+void AppWindow::close_edit_menu()
+{
+    text_ = {};
+    update_commands();
+}
+
+void AppWindow::list_recent_documents()
+{
+    recent_->clear();
+    fill_recent_menu(*recent_, application_, *this);
 }
 
 void AppWindow::list_windows()
@@ -58,12 +106,17 @@ void AppWindow::list_windows()
     if (!application_.windows().isEmpty())
         window_entries_.append(menu->addSeparator());
     for (MainWindow* window : application_.windows()) {
-        QAction* entry = menu->addAction(window->document().title().replace(QLatin1Char('&'), QLatin1String("&&")));
+        QAction* entry = menu->addAction(window->menu_title().replace(QLatin1Char('&'), QLatin1String("&&")));
         entry->setCheckable(true);
         entry->setChecked(window == this);
         connect(entry, &QAction::triggered, window, &MainWindow::come_forward);
         window_entries_.append(entry);
     }
+}
+
+void AppWindow::new_document()
+{
+    application_.new_document();
 }
 
 void AppWindow::choose_file()
@@ -76,28 +129,15 @@ void AppWindow::open_sample()
     application_.open_sample();
 }
 
-void AppWindow::close_window()
-{
-    close();
-}
-
 void AppWindow::quit()
 {
-    QApplication::closeAllWindows();
+    application_.quit();
 }
 
-void AppWindow::minimize()
+void AppWindow::show_settings()
 {
-    showMinimized();
+    application_.show_settings();
 }
-
-void AppWindow::show_page(SidebarItem) { }
-
-void AppWindow::toggle_sidebar() { }
-
-void AppWindow::find() { }
-
-void AppWindow::export_file(ExportKind) { }
 
 void AppWindow::show_help()
 {
@@ -123,6 +163,76 @@ void AppWindow::show_about()
 {
     (new AboutDialog(this))->open();
 }
+
+void AppWindow::close_window()
+{
+    CloseWindowAction::run(this);
+}
+
+void AppWindow::minimize()
+{
+    showMinimized();
+}
+
+void AppWindow::come_forward()
+{
+    if (isMinimized())
+        showNormal();
+    raise();
+    activateWindow();
+}
+
+void AppWindow::undo()
+{
+    if (desktop::text_abilities(focusWidget()).undo)
+        desktop::edit_text(focusWidget(), desktop::TextOrder::undo);
+    else if (QUndoStack* steps = undo_manager())
+        steps->undo();
+}
+
+void AppWindow::redo()
+{
+    if (desktop::text_abilities(focusWidget()).redo)
+        desktop::edit_text(focusWidget(), desktop::TextOrder::redo);
+    else if (QUndoStack* steps = undo_manager())
+        steps->redo();
+}
+
+void AppWindow::cut()
+{
+    desktop::edit_text(focusWidget(), desktop::TextOrder::cut);
+}
+
+void AppWindow::copy()
+{
+    desktop::edit_text(focusWidget(), desktop::TextOrder::copy);
+}
+
+void AppWindow::paste()
+{
+    desktop::edit_text(focusWidget(), desktop::TextOrder::paste);
+}
+
+void AppWindow::select_all()
+{
+    desktop::edit_text(focusWidget(), desktop::TextOrder::selectAll);
+}
+
+void AppWindow::ask(const WindowRequest&) { }
+
+void AppWindow::save() { }
+
+void AppWindow::duplicate() { }
+
+void AppWindow::rename() { }
+
+void AppWindow::move_to() { }
+
+void AppWindow::revert() { }
+
+void AppWindow::find() { }
+
+void AppWindow::toggle_sidebar() { }
 
 void AppWindow::dragEnterEvent(QDragEnterEvent* event)
 {

@@ -6,6 +6,9 @@
 
 #include <memory>
 
+class QMenu;
+class QUndoStack;
+
 namespace quillfern::desktop {
 class WindowMenus;
 }
@@ -21,33 +24,61 @@ public:
     explicit AppWindow(Application& application);
     ~AppWindow() override;
 
+    void new_document() override;
     void choose_file() override;
     void open_sample() override;
-    void close_window() override;
     void quit() override;
-    void minimize() override;
-    void show_page(SidebarItem page) override;
-    void toggle_sidebar() override;
-    void find() override;
-    void export_file(ExportKind kind) override;
+    void show_settings() override;
     void show_help() override;
     void show_help(HelpTopic topic) override;
     void email_support() override;
     void check_for_updates() override;
     void show_about() override;
 
+    void close_window() override;
+    void minimize() override;
+    void undo() override;
+    void redo() override;
+    void cut() override;
+    void copy() override;
+    void paste() override;
+    void select_all() override;
+
+    void ask(const WindowRequest& request) override;
+    void save() override;
+    void duplicate() override;
+    void rename() override;
+    void move_to() override;
+    void revert() override;
+    void find() override;
+    void toggle_sidebar() override;
+
+    void come_forward();
+
+    /// The steps that Undo takes back here; null: the window has none.
+    virtual QUndoStack* undo_manager() { return nullptr; }
+
 protected:
     Application& application() const { return application_; }
     desktop::WindowMenus& menus() const { return *menus_; }
-    void update_commands(const CommandState& state);
+
+    /// What the commands of this window can do now, but for texts.
+    virtual CommandState command_state() const { return {}; }
+    void update_commands();
 
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void name_steps();
+    void list_recent_documents();
     void list_windows();
+    void open_edit_menu();
+    void close_edit_menu();
 
     Application& application_;
+    desktop::TextAbilities text_; ///< while the Edit menu is open
+    QMenu* recent_;
     std::unique_ptr<desktop::WindowMenus> menus_;
     QList<QAction*> window_entries_;
 };

@@ -1,16 +1,21 @@
 #include "app/application.h"
 
-#include "app/document.h"
 #include "app/main_window.h"
+#include "app/open_document.h"
 #include "app/package_path.h"
+#include "app/settings_window.h"
 #include "app/start_window.h"
 #include "desktop/alert.h"
 #include "desktop/package_dialog.h"
 #include "grants/package_messages.h"
+#include "platform/sha256.h"
 
+#include <QApplication>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace quillfern::app {
@@ -42,15 +47,18 @@ void tell_notes(MainWindow& window)
 
 } // namespace
 
-Application::Application(DocumentSource& source, DayWatch::Clock clock, QObject* parent)
-    : QObject(parent), source_(source), day_watch_(std::move(clock)), help_desk_(*this, model_)
+Application::Application(Surroundings surroundings, QObject* parent)
+    : QObject(parent), source_(surroundings.source), day_watch_(std::move(surroundings.clock)),
+      storage_(surroundings.state_folder, surroundings.pace), settings_file_(surroundings.settings_file),
+      preferences_(settings_file_), recent_(settings_file_), help_desk_(*this, model_)
 {
 }
 
 Application::~Application()
 {
-    qDeleteAll(windows_);
+    qDeleteAll(std::exchange(windows_, {})); // each takes itself off the list
     delete start_;
+    delete settings_window_;
 }
 
 void Application::open(const QString& path, QWidget* asking)
@@ -61,12 +69,52 @@ void Application::open(const QString& path, QWidget* asking)
     auto opened = source_.read(package);
     if (!opened)
         return refuse(opened.error(), package, asking);
-    show_document(std::make_unique<Document>(*std::move(opened), package));
+    recent_.add(package);
+    show_document(std::make_unique<OpenDocument>(*std::move(opened), package, storage_));
+}
+
+void Application::new_document()
+{
+    const PreferenceValues& values = preferences_.values();
+    show_document(std::make_unique<OpenDocument>(
+        app::new_document({values.defaultFiscalStart, values.defaultDraftLead}), storage_));
 }
 
 void Application::open_sample()
 {
-    show_document(std::make_unique<Document>(source_.sample(day_watch_.today())));
+    show_document(std::make_unique<OpenDocument>(QuillfernDocument{source_.sample(day_watch_.today())}, storage_));
+}
+
+void Application::open_copy(const OpenDocument& original)
+{
+    auto copy = std::make_unique<OpenDocument>(duplicate_of(original.document().value()), storage_);
+    copy->document().set_unsaved();
+    show_document(std::move(copy));
+}
+
+void Application::open_recovered(grants::FoundRecovery found, QWidget* asking)
+{
+    const QString path = QFile::decodeName(QByteArray::fromStdString(found.info.path));
+    auto opened = path.isEmpty() || window_of(path) ? std::optional<grants::OpenedPackage>() : read_quietly(path);
+    auto recovered = found.slot.read(opened ? &opened->package : nullptr);
+    if (!recovered) {
+        desktop::show_alert({QStringLiteral("“%1” couldn’t be recovered").arg(qt(found.info.title)),
+                                QStringLiteral("What was kept of it stays where it is."), qt(recovered.error())},
+            asking);
+        return;
+    }
+    const bool continues = opened && platform::hex(opened->place->fingerprint.mainHash) == found.info.base;
+    auto document = continues
+        ? std::make_unique<OpenDocument>(*std::move(opened), path, storage_)
+        : std::make_unique<OpenDocument>(QuillfernDocument{std::move(recovered->package)}, storage_);
+    document->recovery().adopt(std::move(found.slot));
+    if (continues) {
+        document->document().edit(QStringLiteral("Recover Changes"), std::move(recovered->package));
+        document->hold_back();
+    } else {
+        document->document().set_unsaved();
+    }
+    show_document(std::move(document));
 }
 
 void Application::choose_file(QWidget* asking)
@@ -86,24 +134,75 @@ void Application::show_start()
     Q_EMIT window_shown(start_);
 }
 
+void Application::show_settings()
+{
+    if (!settings_window_)
+        settings_window_ = new SettingsWindow(*this, preferences_);
+    settings_window_->show();
+    settings_window_->come_forward();
+}
+
+/// What the disk holds, or nothing when it cannot be read: then what was kept stands alone.
+std::optional<grants::OpenedPackage> Application::read_quietly(const QString& path)
+{
+    auto opened = source_.read(path);
+    return opened ? std::optional(*std::move(opened)) : std::nullopt;
+}
+
+void Application::quit()
+{
+    quitting_ = true;
+    close_next();
+}
+
+/// One window after the other: each may have a question, and the answer may be to stay.
+void Application::close_next()
+{
+    if (!quitting_)
+        return;
+    if (!windows_.isEmpty()) {
+        windows_.back()->close();
+        return; // goes on once that window is gone
+    }
+    QApplication::closeAllWindows();
+    QCoreApplication::quit();
+}
+
+void Application::save_all()
+{
+    for (MainWindow* window : windows_)
+        window->document().save_by_itself();
+}
+
+void Application::put_in_safety()
+{
+    for (MainWindow* window : windows_)
+        window->document().put_in_safety();
+}
+
 MainWindow* Application::window_of(const QString& path) const
 {
     for (MainWindow* window : windows_)
-        if (window->document().path() == path)
+        if (window->document().disk().path() == path)
             return window;
     return nullptr;
 }
 
-void Application::show_document(std::unique_ptr<Document> document)
+MainWindow& Application::show_document(std::unique_ptr<OpenDocument> document)
 {
     auto* window = new MainWindow(*this, std::move(document));
     windows_.append(window);
-    connect(window, &QObject::destroyed, this, [this, window] { windows_.removeOne(window); });
+    connect(window, &QObject::destroyed, this, [this, window] {
+        windows_.removeOne(window);
+        close_next();
+    });
+    connect(window, &MainWindow::stays_open, this, [this] { quitting_ = false; });
     window->show();
     if (start_)
         start_->close();
     Q_EMIT window_shown(window);
     tell_notes(*window);
+    return *window;
 }
 
 void Application::refuse(const grants::PackageError& error, const QString& path, QWidget* asking)

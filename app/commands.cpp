@@ -15,6 +15,32 @@ constexpr bool shows_document(const CommandState& state)
     return state.hasDocument;
 }
 
+constexpr bool can_edit(const CommandState& state)
+{
+    return state.hasDocument && state.isWritable;
+}
+
+/// An untitled document has something to save even before its first edit: its name.
+constexpr bool can_save(const CommandState& state)
+{
+    return can_edit(state) && (state.isModified || !state.isNamed);
+}
+
+constexpr bool has_place(const CommandState& state)
+{
+    return can_edit(state) && state.isNamed;
+}
+
+constexpr bool can_undo(const CommandState& state)
+{
+    return state.canUndo;
+}
+
+constexpr bool can_redo(const CommandState& state)
+{
+    return state.canRedo;
+}
+
 constexpr bool shows_meeting(const CommandState& state)
 {
     return state.showsMeeting;
@@ -26,7 +52,7 @@ constexpr bool shows_no_meeting(const CommandState& state)
 }
 
 constexpr auto table = std::to_array<Command>({
-    {{"new", file, file_new_group, "New", "Ctrl+N"}},
+    {{"new", file, file_new_group, "New", "Ctrl+N"}, [](CommandTarget& target) { target.new_document(); }},
     {{"open", file, file_new_group, "Open…", "Ctrl+O"}, [](CommandTarget& target) { target.choose_file(); }},
     {{"openSample", file, file_new_group, "Open the Sample Organization", ""},
         [](CommandTarget& target) { target.open_sample(); }},
@@ -37,18 +63,20 @@ constexpr auto table = std::to_array<Command>({
     {{"addMember", file, file_new_group, "Add Board Member…", ""}},
     {{"addPerson", file, file_new_group, "Add Person…", ""}},
     {{"importCSV", file, file_new_group, "Import Spreadsheet (CSV)…", "Ctrl+Shift+I"}},
-    {{"importMarrowind", file, file_new_group, "Import Marrowind Board…", ""}},
-    {{"save", file, 1, "Save", "Ctrl+S"}},
-    {{"duplicate", file, 1, "Duplicate", "Ctrl+Shift+S"}},
-    {{"rename", file, 1, "Rename…", ""}},
-    {{"moveTo", file, 1, "Move To…", ""}},
-    {{"revert", file, 1, "Revert to Saved", ""}},
+    {{"importMarrowind", file, file_new_group, "Import Marrowind Board…", ""},
+        [](CommandTarget& target) { target.ask(request::ImportMarrowind()); }, can_edit},
+    {{"save", file, 1, "Save", "Ctrl+S"}, [](CommandTarget& target) { target.save(); }, can_save},
+    {{"duplicate", file, 1, "Duplicate", "Ctrl+Shift+S"}, [](CommandTarget& target) { target.duplicate(); },
+        shows_document},
+    {{"rename", file, 1, "Rename…", ""}, [](CommandTarget& target) { target.rename(); }, has_place},
+    {{"moveTo", file, 1, "Move To…", ""}, [](CommandTarget& target) { target.move_to(); }, has_place},
+    {{"revert", file, 1, "Revert to Saved", ""}, [](CommandTarget& target) { target.revert(); }, has_place},
     {{"exportBoardPDF", file, file_export_group, "Export Board Summary PDF…", "Ctrl+E"}},
     {{"exportClientPDF", file, file_export_group, "Export Client Status Report…", ""}},
     {{"exportGrantsCSV", file, file_export_group, "Export Grants Spreadsheet (CSV)…", ""},
-        [](CommandTarget& target) { target.export_file(ExportKind::grantsCSV); }, shows_document},
+        [](CommandTarget& target) { target.ask(request::Export{ExportKind::grantsCSV}); }, shows_document},
     {{"exportCalendar", file, file_export_group, "Export Calendar (.ics)…", "Ctrl+Shift+E"},
-        [](CommandTarget& target) { target.export_file(ExportKind::calendar); }, shows_document},
+        [](CommandTarget& target) { target.ask(request::Export{ExportKind::calendar}); }, shows_document},
     {{"addToCalendar", file, file_export_group, "Add Deadlines to Calendar…", ""}},
     {{"exportMinutes", file, file_export_group, "Export Minutes PDF…", "Ctrl+Alt+E"}},
     {{"exportAgenda", file, file_export_group, "Export Agenda PDF…", ""}},
@@ -60,15 +88,19 @@ constexpr auto table = std::to_array<Command>({
     {{"printMinutes", file, file_print_group, "Print Minutes…", "Ctrl+P"}, nullptr, nullptr, shows_meeting},
     {{"closeWindow", file, 4, "Close Window", "Ctrl+W"}, [](CommandTarget& target) { target.close_window(); }},
     {{"quit", file, 4, "Quit Quillfern", "Ctrl+Q"}, [](CommandTarget& target) { target.quit(); }},
-    {{"undo", edit, 0, "Undo", "Ctrl+Z"}},
-    {{"redo", edit, 0, "Redo", "Ctrl+Shift+Z"}},
-    {{"cut", edit, 1, "Cut", "Ctrl+X"}},
-    {{"copy", edit, 1, "Copy", "Ctrl+C"}},
-    {{"paste", edit, 1, "Paste", "Ctrl+V"}},
-    {{"selectAll", edit, 1, "Select All", "Ctrl+A"}},
+    {{"undo", edit, 0, "Undo", "Ctrl+Z"}, [](CommandTarget& target) { target.undo(); }, can_undo},
+    {{"redo", edit, 0, "Redo", "Ctrl+Shift+Z"}, [](CommandTarget& target) { target.redo(); }, can_redo},
+    {{"cut", edit, 1, "Cut", "Ctrl+X"}, [](CommandTarget& target) { target.cut(); },
+        [](const CommandState& state) { return state.text.cut; }},
+    {{"copy", edit, 1, "Copy", "Ctrl+C"}, [](CommandTarget& target) { target.copy(); },
+        [](const CommandState& state) { return state.text.copy; }},
+    {{"paste", edit, 1, "Paste", "Ctrl+V"}, [](CommandTarget& target) { target.paste(); },
+        [](const CommandState& state) { return state.text.paste; }},
+    {{"selectAll", edit, 1, "Select All", "Ctrl+A"}, [](CommandTarget& target) { target.select_all(); },
+        [](const CommandState& state) { return state.text.selectAll; }},
     {{"find", edit, 2, "Find a Grant or Funder", "Ctrl+F"}, [](CommandTarget& target) { target.find(); },
         shows_document},
-    {{"settings", edit, 3, "Settings…", "Ctrl+,"}},
+    {{"settings", edit, 3, "Settings…", "Ctrl+,"}, [](CommandTarget& target) { target.show_settings(); }},
     {{"addFiles", grant, 0, "Add Files…", "Ctrl+Alt+A"}},
     {{"generateReports", grant, 0, "Generate Reports", "Ctrl+Alt+G"}},
     {{"askBoard", grant, 0, "Ask the Board…", ""}},
@@ -78,16 +110,16 @@ constexpr auto table = std::to_array<Command>({
     {{"minutesTab", meeting, 0, "Minutes", "Ctrl+Alt+3"}},
     {{"callToOrder", meeting, 1, "Call to Order", ""}},
     {{"adjourn", meeting, 1, "Adjourn", ""}},
-    {{"showToday", go, 0, "Today", "Ctrl+1"}, [](CommandTarget& target) { target.show_page(SidebarItem::today); },
-        shows_document},
+    {{"showToday", go, 0, "Today", "Ctrl+1"},
+        [](CommandTarget& target) { target.ask(request::Show{SidebarItem::today}); }, shows_document},
     {{"showPipeline", go, 0, "Pipeline", "Ctrl+2"},
-        [](CommandTarget& target) { target.show_page(SidebarItem::pipeline); }, shows_document},
+        [](CommandTarget& target) { target.ask(request::Show{SidebarItem::pipeline}); }, shows_document},
     {{"showCalendar", go, 0, "Calendar", "Ctrl+3"}},
     {{"showReports", go, 0, "Reports", "Ctrl+4"}},
     {{"showGrants", go, 0, "All Grants", "Ctrl+5"},
-        [](CommandTarget& target) { target.show_page(SidebarItem::grants); }, shows_document},
-    {{"showFunders", go, 0, "Funders", "Ctrl+6"}, [](CommandTarget& target) { target.show_page(SidebarItem::funders); },
-        shows_document},
+        [](CommandTarget& target) { target.ask(request::Show{SidebarItem::grants}); }, shows_document},
+    {{"showFunders", go, 0, "Funders", "Ctrl+6"},
+        [](CommandTarget& target) { target.ask(request::Show{SidebarItem::funders}); }, shows_document},
     {{"showBoardOverview", go, 1, "Board Overview", "Ctrl+7"}},
     {{"showActionItems", go, 1, "Action Items", "Ctrl+8"}},
     {{"showMotions", go, 1, "Motions", ""}},

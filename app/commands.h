@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/export_kind.h"
 #include "app/help_topics.h"
-#include "app/sidebar_item.h"
+#include "app/window_request.h"
 #include "desktop/command.h"
+#include "desktop/text_editing.h"
 
 #include <span>
 #include <string_view>
@@ -13,28 +13,52 @@ namespace quillfern::app {
 /// What a command needs to know to decide whether it can act.
 struct CommandState {
     bool hasDocument = false; ///< the window shows a document
+    bool isWritable = false; ///< the document may be changed
+    bool isNamed = false; ///< it lives in a file
+    bool isModified = false; ///< it differs from what was saved last
+    bool canUndo = false;
+    bool canRedo = false;
+    desktop::TextAbilities text = {}; ///< of the field that has the keyboard; known while the Edit menu is open
     bool showsMeeting = false; ///< the board's workspace shows a meeting
 
     friend bool operator==(const CommandState&, const CommandState&) = default;
 };
 
-/// What the commands act on: the window in which they were given, and the program behind it.
+/// What the commands act on: the window in which they were given, and the program behind it. A window without a
+/// document leaves alone what needs one.
 class CommandTarget {
 public:
+    /// The program's.
+    virtual void new_document() = 0;
     virtual void choose_file() = 0;
     virtual void open_sample() = 0;
-    virtual void close_window() = 0;
     virtual void quit() = 0;
-    virtual void minimize() = 0;
-    virtual void show_page(SidebarItem page) = 0;
-    virtual void toggle_sidebar() = 0;
-    virtual void find() = 0;
-    virtual void export_file(ExportKind kind) = 0;
+    virtual void show_settings() = 0;
     virtual void show_help() = 0; ///< on the topic that was shown last
     virtual void show_help(HelpTopic topic) = 0;
     virtual void email_support() = 0;
     virtual void check_for_updates() = 0;
     virtual void show_about() = 0;
+
+    /// The window's.
+    virtual void close_window() = 0;
+    virtual void minimize() = 0;
+    virtual void undo() = 0;
+    virtual void redo() = 0;
+    virtual void cut() = 0;
+    virtual void copy() = 0;
+    virtual void paste() = 0;
+    virtual void select_all() = 0;
+
+    /// The document window's.
+    virtual void ask(const WindowRequest& request) = 0;
+    virtual void save() = 0;
+    virtual void duplicate() = 0;
+    virtual void rename() = 0;
+    virtual void move_to() = 0;
+    virtual void revert() = 0;
+    virtual void find() = 0;
+    virtual void toggle_sidebar() = 0;
 
 protected:
     ~CommandTarget() = default;

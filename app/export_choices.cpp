@@ -1,7 +1,7 @@
 #include "app/export_choices.h"
 
 #include "app/count_words.h"
-#include "base/trim.h"
+#include "app/file_names.h"
 #include "grants/agenda.h"
 #include "grants/grant_exporter.h"
 
@@ -19,12 +19,6 @@ using grants::ICSExport;
 constexpr Text grants_name = {"grants", "subvenciones"};
 constexpr Text dates_name = {"dates", "fechas"};
 
-/// Names on the disks of other systems may not hold these, and the file is meant to be handed on.
-constexpr std::string_view forbidden = "/\\:*?\"<>|";
-
-/// File systems take 255 bytes for a name; this leaves room for the rest of it.
-constexpr std::size_t longest_organization = 120;
-
 ICSExport::Options options_of(const ExportChoices& choices)
 {
     return {choices.draftDates, choices.payments, choices.decisions, choices.alert ? choices.alertDays : 0};
@@ -39,15 +33,6 @@ std::string count_of(const std::vector<AgendaItem>& items, AgendaKind kind)
 std::string name_of(const GrantFile& file)
 {
     return file.org.name.empty() ? "this organization" : file.org.name;
-}
-
-/// Cut at the end of a character.
-std::string_view shortened(std::string_view text)
-{
-    std::size_t end = std::min(text.size(), longest_organization);
-    while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
-        --end;
-    return text.substr(0, end);
 }
 
 } // namespace
@@ -88,12 +73,7 @@ std::string export_text(const GrantFile& file, const ExportChoices& choices, Ins
 
 std::string export_file_name(const GrantFile& file, const ExportChoices& choices)
 {
-    std::string name(shortened(file.org.name));
-    std::erase_if(name, [](char c) {
-        return forbidden.find(c) != std::string_view::npos || static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-    });
-    name = trimmed(name);
-    name.erase(0, std::min(name.find_first_not_of('.'), name.size())); // a leading dot would hide the file
+    std::string name = file_name_for(file.org.name);
     const Text& what = choices.kind == ExportKind::grantsCSV ? grants_name : dates_name;
     const std::string_view word = what(choices.lang);
     name += name.empty() ? std::string(word) : ' ' + std::string(word);

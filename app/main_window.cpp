@@ -1,30 +1,31 @@
 #include "app/main_window.h"
 
-#include "app/all_grants_page.h"
 #include "app/application.h"
-#include "app/award_money.h"
+#include "app/close_guard.h"
+#include "app/document_desk.h"
+#include "app/document_notice.h"
 #include "app/file_export.h"
 #include "app/fiscal_year_choice.h"
-#include "app/funders_page.h"
-#include "app/pipeline_page.h"
+#include "app/open_document.h"
+#include "app/page_stack.h"
+#include "app/pane_keys.h"
 #include "app/sidebar.h"
 #include "app/today_page.h"
 #include "app/window_layout.h"
+#include "app/window_placement.h"
 #include "app/window_tool_bar.h"
+#include "desktop/alert.h"
 #include "desktop/menu_builder.h"
 #include "desktop/surface.h"
 #include "desktop/toast.h"
 #include "desktop/type.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLineEdit>
-#include <QSettings>
-#include <QShortcut>
 #include <QSplitter>
-#include <QStackedWidget>
 
-#include <array>
 #include <utility>
 
 namespace quillfern::app {
@@ -37,15 +38,12 @@ constexpr double least_sidebar_width = 200;
 constexpr double most_sidebar_width = 360;
 constexpr double strip_width = 60;
 constexpr int window_offset = 28; ///< between the corners of two windows that open one after the other
-const QString geometry_key = QStringLiteral("window/geometry");
-const QString sidebar_key = QStringLiteral("window/sidebarOpen");
-const QString sidebar_width_key = QStringLiteral("window/sidebarWidth");
 
-WindowState first_state(const Document& document, const grants::Day& today)
+WindowState first_state(const grants::GrantFile& file, const grants::Day& today)
 {
     WindowState state;
     state.today = today;
-    state.fiscalYear = fiscal_calendar(document.file().org).year_of(today);
+    state.fiscalYear = fiscal_calendar(file.org).year_of(today);
     return state;
 }
 
@@ -60,30 +58,24 @@ QByteArray logo_bytes(const grants::OrgPackage& package)
 
 } // namespace
 
-MainWindow::MainWindow(Application& application, std::unique_ptr<Document> document)
+MainWindow::MainWindow(Application& application, std::unique_ptr<OpenDocument> document)
     : AppWindow(application), document_(std::move(document)),
-      model_(first_state(*document_, application.day_watch().today())), sidebar_width_(scaled(sidebar_width)),
+      model_(first_state(document_->document().file(), application.day_watch().today())),
+      desk_(new DocumentDesk(*document_, model_, application, *this)), sidebar_width_(scaled(sidebar_width)),
       splitter_(new QSplitter(this)), tool_bar_(new WindowToolBar(menus(), this)), sidebar_(new Sidebar(this)),
-      pages_(new QStackedWidget(this)), today_page_(new TodayPage(pages_))
+      notice_(new DocumentNotice(this)), pages_(new PageStack(model_, this))
 {
     setObjectName(QStringLiteral("documentWindow"));
     lay_out();
-    update_commands({true});
-    tool_bar_->update_buttons();
-    connect(&application.day_watch(), &DayWatch::day_changed, this,
-        [this](const grants::Day& today) { model_.edit([&](WindowState& state) { state.today = today; }); });
-    connect(&model_, &WindowModel::changed, this, &MainWindow::take_state);
-    connect(sidebar_, &Sidebar::chosen, this, &MainWindow::show_page);
+    connect_document();
     connect_tool_bar();
-    const auto on_key = [this](const QKeySequence& keys, int direction) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, direction] { cycle_panes(direction); });
-    };
-    on_key(Qt::Key_F6, 1);
-    on_key(Qt::SHIFT | Qt::Key_F6, -1);
+    connect_pages();
     redraw();
+    show_condition();
+    tool_bar_->update_buttons();
     restore_placement();
     arrange();
-    today_page_->setFocus();
+    pages_->focus_page();
 }
 
 MainWindow::~MainWindow() = default;
@@ -97,15 +89,90 @@ void MainWindow::lay_out()
     row->addWidget(splitter_);
     splitter_->setChildrenCollapsible(false);
     splitter_->addWidget(sidebar_);
-    splitter_->addWidget(pages_);
+    splitter_->addWidget(make_detail());
     splitter_->setStretchFactor(1, 1);
     connect(splitter_, &QSplitter::splitterMoved, this, [this] {
         if (sidebar_->width() >= scaled(least_sidebar_width)) // not the strip, which cannot be dragged
             sidebar_width_ = sidebar_->width();
     });
-    pages_->addWidget(today_page_);
     setCentralWidget(content);
     setMinimumSize(960, 600);
+}
+
+/// The page, and above it what there is to say of the document's file.
+QWidget* MainWindow::make_detail()
+{
+    auto* detail = new QWidget(splitter_);
+    auto* column = new QVBoxLayout(detail);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(notice_);
+    column->addWidget(pages_, 1);
+    return detail;
+}
+
+void MainWindow::connect_document()
+{
+    Document& document = document_->document();
+    new CloseGuard(*this, [this] { return may_close_ || desk_->may_close(); });
+    connect(desk_, &DocumentDesk::close_decided, this, [this](bool close_it) {
+        if (!close_it)
+            return Q_EMIT stays_open();
+        may_close_ = true;
+        close();
+    });
+    connect(&document, &Document::changed, this, &MainWindow::redraw);
+    connect(&document, &Document::modified_changed, this, &MainWindow::show_condition);
+    connect(&document.undo_stack(), &QUndoStack::indexChanged, this, &MainWindow::update_commands);
+    connect(document_.get(), &OpenDocument::condition_changed, this, &MainWindow::show_condition);
+    connect(&document_->recovery(), &RecoveryKeeper::problem_changed, this, &MainWindow::show_condition);
+    connect(&document_->disk(), &DocumentFile::path_changed, this, &MainWindow::show_condition);
+    connect(notice_, &DocumentNotice::action_chosen, desk_, &DocumentDesk::perform);
+    connect(desk_, &DocumentDesk::access_changed, this, &MainWindow::show_condition);
+}
+
+/// The title, the strip and the commands tell how the value and the disk stand to each other.
+void MainWindow::show_condition()
+{
+    setWindowTitle(document_->title() + QStringLiteral("[*] — Quillfern"));
+    setWindowModified(document_->document().is_modified());
+    update_commands();
+    notice_->show_notice(notice_for(*document_));
+}
+
+CommandState MainWindow::command_state() const
+{
+    Document& document = document_->document();
+    CommandState state;
+    state.hasDocument = true;
+    state.isWritable = document_->disk().is_writable();
+    state.isNamed = document_->disk().is_named();
+    state.isModified = document.is_modified();
+    state.canUndo = document.undo_stack().canUndo();
+    state.canRedo = document.undo_stack().canRedo();
+    return state;
+}
+
+QUndoStack* MainWindow::undo_manager()
+{
+    return &document_->document().undo_stack();
+}
+
+QString MainWindow::menu_title() const
+{
+    return document_->title();
+}
+
+void MainWindow::connect_pages()
+{
+    connect(&application().day_watch(), &DayWatch::day_changed, this,
+        [this](const grants::Day& today) { model_.edit([&](WindowState& state) { state.today = today; }); });
+    connect(&model_, &WindowModel::changed, this, &MainWindow::take_state);
+    connect(sidebar_, &Sidebar::chosen, this, &MainWindow::show_page);
+    new PaneKeys(*this,
+        {{tool_bar_, [this] { return tool_bar_->first_button(); }},
+            {sidebar_, [this] { return sidebar_->focusProxy(); }},
+            {pages_, [this] { return pages_->currentWidget(); }}});
 }
 
 void MainWindow::connect_tool_bar()
@@ -119,71 +186,46 @@ void MainWindow::connect_tool_bar()
                 state.selection = SidebarItem::grants;
         });
     });
-    connect(tool_bar_, &WindowToolBar::search_left, this, &MainWindow::focus_page);
+    connect(tool_bar_, &WindowToolBar::search_left, pages_, &PageStack::focus_page);
 }
 
 void MainWindow::redraw()
 {
-    const WindowState& state = model_.state();
+    const grants::GrantFile& file = document_->document().file();
     setWindowTitle(document_->title() + QStringLiteral("[*] — Quillfern"));
-    sidebar_->set_logo(logo_bytes(document_->package()));
-    sidebar_->show_presentation(sidebar_presentation(document_->file(), state.today));
+    sidebar_->set_logo(logo_bytes(document_->document().package()));
+    sidebar_->show_presentation(sidebar_presentation(file, model_.state().today));
     show_state();
 }
 
 void MainWindow::take_state(const WindowState& before, const WindowState& after)
 {
+    if (after.request) {
+        const WindowRequest request = *after.request;
+        model_.edit([](WindowState& state) { state.request.reset(); });
+        return perform(request);
+    }
+    if (before.sheet != after.sheet && after.sheet)
+        open_sheet(*after.sheet);
+    if (before.alert != after.alert && after.alert)
+        show_alert(*after.alert);
+    if (before.toast != after.toast && after.toast)
+        show_toast(*after.toast);
     if (before.today != after.today)
         return redraw();
-    const bool keyboard_on_page = focusWidget() && pages_->isAncestorOf(focusWidget());
+    const bool keyboard_on_page = pages_->has_keyboard();
     show_state();
     if (before.selection != after.selection && keyboard_on_page)
-        focus_page();
+        pages_->focus_page();
 }
 
 void MainWindow::show_state()
 {
     const WindowState& state = model_.state();
     sidebar_->select(state.selection);
-    tool_bar_->show_fiscal_years(fiscal_year_choice(document_->file(), state.today, state.fiscalYear));
+    tool_bar_->show_fiscal_years(fiscal_year_choice(document_->document().file(), state.today, state.fiscalYear));
     tool_bar_->show_search(QString::fromStdString(state.search));
-    pages_->setCurrentWidget(show_selected_page());
-}
-
-QWidget* MainWindow::show_selected_page()
-{
-    const WindowState& state = model_.state();
-    const grants::GrantFile& file = document_->file();
-    if (Page* page = page_of(state.selection)) {
-        page->show_file(file, state);
-        return page;
-    }
-    today_page_->show_presentation(today_presentation(file, state.today));
-    today_page_->show_award_money(award_money(file, state.today, state.fiscalYear));
-    return today_page_;
-}
-
-/// Null for the Today page, which is no page like the others yet.
-Page* MainWindow::page_of(SidebarItem item)
-{
-    if (const auto made = other_pages_.find(item); made != other_pages_.end())
-        return made->second;
-    Page* page = nullptr;
-    if (item == SidebarItem::pipeline)
-        page = new PipelinePage(model_, pages_);
-    else if (item == SidebarItem::grants)
-        page = new AllGrantsPage(model_, pages_);
-    else if (item == SidebarItem::funders)
-        page = new FundersPage(model_, pages_);
-    else
-        return nullptr;
-    pages_->addWidget(page);
-    return other_pages_[item] = page;
-}
-
-void MainWindow::focus_page()
-{
-    pages_->currentWidget()->setFocus(Qt::OtherFocusReason);
+    pages_->show_file(document_->document().file(), state);
 }
 
 void MainWindow::find()
@@ -192,17 +234,91 @@ void MainWindow::find()
     tool_bar_->focus_search();
 }
 
-void MainWindow::export_file(ExportKind kind)
+void MainWindow::ask(const WindowRequest& request)
 {
-    start_export(document_->file(), kind, this,
-        [this](const QString& name) { show_toast(QStringLiteral("Saved “%1”.").arg(name)); });
+    model_.ask(request);
 }
 
-void MainWindow::show_toast(const QString& text)
+void MainWindow::perform(const WindowRequest& request)
+{
+    if (const auto* exporting = std::get_if<request::Export>(&request))
+        model_.edit([&](WindowState& state) { state.sheet = sheet::Export{exporting->kind}; });
+    else if (const auto* showing = std::get_if<request::Show>(&request))
+        show_page(showing->item);
+    else
+        import_board();
+}
+
+/// A sheet that cannot be opened twice is told from the next one like it by being taken off the state at once.
+void MainWindow::open_sheet(const WindowSheet& sheet)
+{
+    model_.edit([](WindowState& state) { state.sheet.reset(); });
+    if (const auto* exporting = std::get_if<sheet::Export>(&sheet))
+        export_file(exporting->kind);
+    else
+        welcome();
+}
+
+void MainWindow::save()
+{
+    desk_->save();
+}
+
+void MainWindow::duplicate()
+{
+    desk_->duplicate();
+}
+
+void MainWindow::rename()
+{
+    desk_->rename();
+}
+
+void MainWindow::move_to()
+{
+    desk_->move_to();
+}
+
+void MainWindow::revert()
+{
+    desk_->revert();
+}
+
+void MainWindow::edit(const QString& label, grants::GrantFile next, const QString& toast)
+{
+    if (!document_->disk().is_writable())
+        return model_.tell("This window shows the file, but can’t change it.");
+    document_->document().edit(label, std::move(next));
+    if (!toast.isEmpty())
+        model_.tell(toast.toStdString());
+}
+
+void MainWindow::export_file(ExportKind kind)
+{
+    start_export(document_->document().file(), kind, this,
+        [this](const QString& name) { model_.tell("Saved “" + name.toStdString() + "”."); });
+}
+
+void MainWindow::import_board() { }
+
+void MainWindow::welcome() { }
+
+void MainWindow::show_alert(const AlertItem& item)
+{
+    desktop::show_alert(
+        {QString::fromStdString(item.title), QString::fromStdString(item.message), {}}, this, [this, id = item.id] {
+            model_.edit([id](WindowState& state) {
+                if (state.alert && state.alert->id == id)
+                    state.alert.reset();
+            });
+        });
+}
+
+void MainWindow::show_toast(const Toast& toast)
 {
     if (!toast_)
         toast_ = new desktop::Toast(pages_);
-    toast_->show_message(text);
+    toast_->show_message(QString::fromStdString(toast.text));
 }
 
 void MainWindow::show_page(SidebarItem page)
@@ -228,34 +344,7 @@ void MainWindow::arrange()
     sidebar_->setMaximumWidth(scaled(strip ? strip_width : most_sidebar_width));
     const int sidebar = strip ? scaled(strip_width) : sidebar_width_;
     splitter_->setSizes({sidebar, width() - sidebar});
-    today_page_->set_right_column(scaled(layout.rightColumn));
-}
-
-void MainWindow::come_forward()
-{
-    if (isMinimized())
-        showNormal();
-    raise();
-    activateWindow();
-}
-
-/// Moves the focus to the next part of the window that can take it: tool bar, sidebar, page.
-void MainWindow::cycle_panes(int direction)
-{
-    const std::array<QWidget*, 3> panes = {tool_bar_, sidebar_, pages_};
-    const QWidget* focus = focusWidget();
-    std::size_t at = 2;
-    for (std::size_t i = 0; i < panes.size(); ++i)
-        if (focus && (panes[i] == focus || panes[i]->isAncestorOf(focus)))
-            at = i;
-    const std::size_t step = direction > 0 ? 1 : panes.size() - 1;
-    at = (at + step) % panes.size();
-    if (!panes[at]->isVisible())
-        at = (at + step) % panes.size();
-    QWidget* target = at == 0 ? tool_bar_->first_button() : at == 1 ? sidebar_->focusProxy() : pages_->currentWidget();
-    target->setFocus(Qt::ShortcutFocusReason);
-    setAttribute(Qt::WA_KeyboardFocusChange);
-    target->update();
+    pages_->today().set_right_column(scaled(layout.rightColumn));
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event)
@@ -264,31 +353,31 @@ void MainWindow::resizeEvent(QResizeEvent* event)
     arrange();
 }
 
+void MainWindow::changeEvent(QEvent* event)
+{
+    AppWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        document_->look_at_disk();
+}
+
+/// Only once the window may close: see CloseGuard.
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    save_placement();
+    document_->recovery().discard(); // saved, or not wanted
+    remember_placement({saveGeometry(), sidebar_open_, sidebar_width_});
     AppWindow::closeEvent(event);
 }
 
 void MainWindow::restore_placement()
 {
-    const QSettings settings;
-    if (settings.contains(sidebar_key))
-        sidebar_open_ = settings.value(sidebar_key).toBool();
-    sidebar_width_ = settings.value(sidebar_width_key, sidebar_width_).toInt();
-    if (!restoreGeometry(settings.value(geometry_key).toByteArray()))
+    const WindowPlacement placement = last_placement();
+    sidebar_open_ = placement.sidebarOpen;
+    if (placement.sidebarWidth > 0)
+        sidebar_width_ = placement.sidebarWidth;
+    if (!restoreGeometry(placement.geometry))
         resize(scaled(1280), scaled(800));
     if (!application().windows().isEmpty() && !isMaximized())
         move(application().windows().back()->pos() + QPoint(window_offset, window_offset));
-}
-
-void MainWindow::save_placement() const
-{
-    QSettings settings;
-    settings.setValue(geometry_key, saveGeometry());
-    settings.setValue(sidebar_width_key, sidebar_width_);
-    if (sidebar_open_)
-        settings.setValue(sidebar_key, *sidebar_open_);
 }
 
 } // namespace quillfern::app

@@ -1,73 +1,97 @@
 #pragma once
 
 #include "app/app_window.h"
-#include "app/document.h"
 #include "app/window_model.h"
+#include "grants/grant_file.h"
 
-#include <map>
+#include <memory>
 #include <optional>
 
 class QSplitter;
-class QStackedWidget;
 
 namespace quillfern::desktop {
 class Toast;
-}
+} // namespace quillfern::desktop
 
 namespace quillfern::app {
 
-class Page;
+class DocumentDesk;
+class DocumentNotice;
+class OpenDocument;
+class PageStack;
 class Sidebar;
-class TodayPage;
 class WindowToolBar;
 
 /// The window of one document: tool bar, sidebar, and the page that the sidebar has chosen.
 class MainWindow : public AppWindow {
     Q_OBJECT
 public:
-    MainWindow(Application& application, std::unique_ptr<Document> document);
+    MainWindow(Application& application, std::unique_ptr<OpenDocument> document);
     ~MainWindow() override;
 
-    const Document& document() const { return *document_; }
+    OpenDocument& document() { return *document_; }
+    const OpenDocument& document() const { return *document_; }
     WindowModel& model() { return model_; }
-    void come_forward();
+    QUndoStack* undo_manager() override;
 
-    void show_page(SidebarItem page) override;
-    void toggle_sidebar() override;
+    /// What the Window menu calls it.
+    QString menu_title() const;
+
+    void ask(const WindowRequest& request) override;
+    void save() override;
+    void duplicate() override;
+    void rename() override;
+    void move_to() override;
+    void revert() override;
     void find() override;
-    void export_file(ExportKind kind) override;
+    void toggle_sidebar() override;
 
-    /// A short message over the page.
-    void show_toast(const QString& text);
+    /// One undo step of the document, and a toast when there is something to say.
+    void edit(const QString& label, grants::GrantFile next, const QString& toast = {});
+
+    /// Shows the welcome sheet.
+    void welcome();
+
+Q_SIGNALS:
+    void stays_open(); ///< the user was asked whether to close it, and does not want to
 
 protected:
+    CommandState command_state() const override;
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void lay_out();
+    QWidget* make_detail();
+    void connect_document();
     void connect_tool_bar();
+    void connect_pages();
     void redraw();
+    void show_condition();
     void take_state(const WindowState& before, const WindowState& after);
+    void perform(const WindowRequest& request);
+    void open_sheet(const WindowSheet& sheet);
+    void show_alert(const AlertItem& item);
+    void show_toast(const Toast& toast);
     void show_state();
-    QWidget* show_selected_page();
-    Page* page_of(SidebarItem item);
-    void focus_page();
+    void show_page(SidebarItem page);
+    void export_file(ExportKind kind);
+    void import_board();
     void arrange();
-    void cycle_panes(int direction);
     void restore_placement();
-    void save_placement() const;
 
-    std::unique_ptr<Document> document_;
+    std::unique_ptr<OpenDocument> document_;
     WindowModel model_;
+    DocumentDesk* desk_;
+    bool may_close_ = false; ///< the user has been asked
     std::optional<bool> sidebar_open_; ///< what the user asked for; absent: nothing yet
     int sidebar_width_; ///< of the full sidebar, as the user has dragged it
     QSplitter* splitter_;
     WindowToolBar* tool_bar_;
     Sidebar* sidebar_;
-    QStackedWidget* pages_;
-    TodayPage* today_page_;
-    std::map<SidebarItem, Page*> other_pages_; ///< made when they are first shown
+    DocumentNotice* notice_;
+    PageStack* pages_;
     desktop::Toast* toast_ = nullptr;
 };
 

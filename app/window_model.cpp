@@ -1,5 +1,7 @@
 #include "app/window_model.h"
 
+#include <utility>
+
 namespace quillfern::app {
 
 void WindowModel::set(const WindowState& state)
@@ -9,6 +11,22 @@ void WindowModel::set(const WindowState& state)
     const WindowState before = state_;
     state_ = state;
     Q_EMIT changed(before, state_);
+}
+
+void WindowModel::ask(const WindowRequest& request)
+{
+    edit([&](WindowState& state) { state.request = request; });
+}
+
+void WindowModel::tell(const std::string& toast)
+{
+    edit([](WindowState& state) { state.toast.reset(); }); // the same words again are news, too
+    edit([&](WindowState& state) { state.toast = Toast{toast}; });
+}
+
+void WindowModel::alert(std::string title, std::string message)
+{
+    edit([&](WindowState& state) { state.alert = AlertItem{++alerts_, std::move(title), std::move(message)}; });
 }
 
 } // namespace quillfern::app

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "app/sidebar_item.h"
+#include "app/window_messages.h"
+#include "app/window_request.h"
+#include "app/window_sheet.h"
 #include "base/uuid.h"
 #include "grants/day.h"
 #include "grants/records.h"
@@ -16,12 +19,16 @@ namespace quillfern::app {
 /// What one document window shows, apart from the document itself: a plain value.
 struct WindowState {
     SidebarItem selection = SidebarItem::today;
-    grants::Day today; ///< the date that everything in the window is told from
-    std::int64_t fiscalYear = 0; ///< named by the year in which it ends
+    std::optional<WindowSheet> sheet;
+    std::optional<WindowRequest> request; ///< lives between the command that sets it and the window that takes it
     std::string search; ///< as typed in the tool bar
+    std::int64_t fiscalYear = 0; ///< named by the year in which it ends
+    std::optional<Toast> toast;
+    std::optional<AlertItem> alert;
+    std::optional<Uuid> selectedFunder;
+    grants::Day today; ///< the date that everything in the window is told from
     std::optional<grants::Stage> grantsStage; ///< the stage that All Grants is filtered by
     std::optional<grants::Stage> pipelineStage; ///< the stage that Pipeline lists; absent: all open requests
-    std::optional<Uuid> selectedFunder;
 
     friend bool operator==(const WindowState&, const WindowState&) = default;
 };
@@ -45,11 +52,16 @@ public:
         set(next);
     }
 
+    void ask(const WindowRequest& request);
+    void tell(const std::string& toast);
+    void alert(std::string title, std::string message);
+
 Q_SIGNALS:
     void changed(const WindowState& before, const WindowState& after);
 
 private:
     WindowState state_;
+    std::int64_t alerts_ = 0; ///< how many there have been
 };
 
 } // namespace quillfern::app

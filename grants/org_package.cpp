@@ -3,9 +3,11 @@
 #include "grants/grant_file_json.h"
 #include "grants/read_back.h"
 #include "platform/clock.h"
+#include "platform/package_move.h"
 #include "platform/package_reader.h"
 #include "platform/random_uuid.h"
 
+#include <cerrno>
 #include <cstring>
 
 namespace quillfern::grants {
@@ -98,6 +100,36 @@ Result<platform::NewPackage, platform::SaveError> write_package_as(const OrgPack
 {
     const platform::PackageContents contents = contents_of(package);
     return platform::save_package_as(path, request_for(package, contents, displaced), existing, ownership, lock);
+}
+
+platform::PackageChange compare_with_disk(const platform::PackagePlace& place)
+{
+    return platform::compare_with_disk(place, layout());
+}
+
+void clear_leftovers(
+    const platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced)
+{
+    platform::clean_leftovers(place, layout(), displaced, lock);
+}
+
+Result<std::shared_ptr<platform::PackagePlace>, platform::SaveError> move_package(const OrgPackage& package,
+    const std::shared_ptr<platform::PackagePlace>& place, const std::string& path,
+    const platform::DocumentLock& old_lock, const platform::DocumentLock& new_lock, platform::DisplacedTrees* displaced)
+{
+    const auto moved = platform::move_package(*place, path, layout(), old_lock, new_lock);
+    if (moved)
+        return place;
+    if (moved.error().systemError != EXDEV)
+        return fail(moved.error());
+    auto written =
+        write_package_as(package, path, platform::Existing::refuse, platform::Ownership::document, new_lock, displaced);
+    if (!written)
+        return fail(written.error());
+    // Only now: the document is whole at its new place. What the old tree holds was looked at before the move.
+    if (displaced)
+        (void)displaced->take(place->tree->path(), place->tree);
+    return written->place;
 }
 
 } // namespace quillfern::grants

@@ -6,6 +6,7 @@
 #include "grants/grant_file.h"
 #include "platform/blob.h"
 #include "platform/directory_save.h"
+#include "platform/package_watch.h"
 
 #include <map>
 #include <memory>
@@ -66,5 +67,20 @@ Result<platform::SaveOutcome, platform::SaveError> write_package(const OrgPackag
 Result<platform::NewPackage, platform::SaveError> write_package_as(const OrgPackage& package, const std::string& path,
     platform::Existing existing, platform::Ownership ownership, const platform::DocumentLock& lock,
     platform::DisplacedTrees* displaced = nullptr);
+
+/// Whether the disk still holds what was read or saved last.
+platform::PackageChange compare_with_disk(const platform::PackagePlace& place);
+
+/// For a document that was read without its lock: puts away what crashed saves have left beside it.
+void clear_leftovers(
+    const platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced);
+
+/// Gives the document another name or folder. What is on the disk moves; `package` is written only when the new folder
+/// is on another disk, and the old tree then goes to `displaced`. Refused as `exists` when the name is taken. The
+/// result is the place in which the document lives from now on.
+Result<std::shared_ptr<platform::PackagePlace>, platform::SaveError> move_package(const OrgPackage& package,
+    const std::shared_ptr<platform::PackagePlace>& place, const std::string& path,
+    const platform::DocumentLock& old_lock, const platform::DocumentLock& new_lock,
+    platform::DisplacedTrees* displaced);
 
 } // namespace quillfern::grants

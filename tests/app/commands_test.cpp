@@ -43,8 +43,9 @@ TEST(Commands, WithoutADocumentOnlyThoseThatNeedNoneCanAct)
         if (is_enabled(command, {.hasDocument = false}))
             enabled.push_back(command.row.id);
     EXPECT_THAT(enabled,
-        ElementsAre("open", "openSample", "closeWindow", "quit", "minimize", "help", "helpReportingDates",
-            "helpMotions", "helpImport", "helpLimits", "emailSupport", "checkForUpdates", "about"));
+        ElementsAre("new", "open", "openSample", "closeWindow", "quit", "settings", "minimize", "help",
+            "helpReportingDates", "helpMotions", "helpImport", "helpLimits", "emailSupport", "checkForUpdates",
+            "about"));
     EXPECT_TRUE(is_enabled(*find_command("showToday"), {.hasDocument = true}));
     EXPECT_FALSE(is_enabled(*find_command("showCalendar"), {.hasDocument = true}));
 }

@@ -126,17 +126,6 @@ TEST_F(WindowTest, APackageDroppedOnAWindowOpens)
     EXPECT_EQ(program_.windows().size(), 2);
 }
 
-TEST_F(WindowTest, AMenuItemIsEnabledOnlyWhenItCanAct)
-{
-    const MainWindow& window = open(write_package("Pantry.quillfern", file_with_days({})));
-    for (const Command& command : commands()) {
-        const auto* action = window.findChild<QAction*>(
-            QString::fromUtf8(command.row.id.data(), static_cast<qsizetype>(command.row.id.size())));
-        ASSERT_TRUE(action) << command.row.id;
-        EXPECT_EQ(action->isEnabled(), command.act != nullptr) << command.row.id;
-    }
-}
-
 TEST_F(WindowTest, AnEmptyFileSaysWhatToDo)
 {
     const MainWindow& window = open(write_package("Pantry.quillfern", file_with_days({})));

@@ -60,7 +60,7 @@ TEST_F(ExportTest, TheSpreadsheetIsSavedWithItsEndingAndAToastSaysSo)
 {
     save_as(open_sheet("exportGrantsCSV"), folder_.filePath("Our grants"));
     EXPECT_EQ(content(folder_.filePath("Our grants.csv")).toStdString(),
-        grants::GrantExporter::csv(window_->document().file(), Lang::en));
+        grants::GrantExporter::csv(window_->document().document().file(), Lang::en));
     const auto* toast = window_->findChild<desktop::Toast*>();
     ASSERT_TRUE(toast && toast->isVisible());
     EXPECT_EQ(toast->accessibleName(), "Saved “Our grants.csv”.");

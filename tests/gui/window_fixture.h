@@ -2,6 +2,7 @@
 
 #include "app/application.h"
 #include "app/main_window.h"
+#include "app/open_document.h"
 #include "grants/grant_file_json.h"
 
 #include <QApplication>
@@ -18,6 +19,11 @@ namespace quillfern::app {
 /// A running program on September 10, 2026, with a folder for packages.
 class WindowTest : public testing::Test {
 protected:
+    WindowTest()
+    {
+        program_.preferences().edit([](PreferenceValues& values) { values.welcomeDone = true; });
+    }
+
     QString write_package(const QString& name, const std::string& json)
     {
         const QString path = folder_.filePath(name);
@@ -68,7 +74,10 @@ protected:
     QTemporaryDir folder_;
     grants::Day today_{2026, 9, 10};
     DocumentSource source_;
-    Application program_{source_, [this] { return today_; }};
+    Application program_{Surroundings{.source = source_,
+        .clock = [this] { return today_; },
+        .state_folder = folder_.filePath(QStringLiteral("state")).toStdString(),
+        .settings_file = folder_.filePath(QStringLiteral("settings.conf"))}};
 };
 
 } // namespace quillfern::app

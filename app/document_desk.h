@@ -1,0 +1,72 @@
+#pragma once
+
+#include "app/notices.h"
+#include "app/open_document.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+class QWidget;
+
+namespace quillfern::app {
+
+class Application;
+class WindowModel;
+
+/// Where the user and one document's file meet: what the File menu's save group does, what is asked before a document
+/// closes, and what is said when saving fails or somebody else has written the file.
+class DocumentDesk : public QObject {
+    Q_OBJECT
+public:
+    DocumentDesk(OpenDocument& document, WindowModel& model, Application& application, QWidget& window);
+
+    /// What a button of the strip over the page asks for.
+    void perform(Notice::Action action);
+
+    void save(); ///< asks where when the document lives nowhere yet
+    void save_as();
+    void duplicate();
+    void rename();
+    void move_to();
+    void revert();
+
+    /// What others have written takes the place of this value; or this value goes to a file of its own beside theirs.
+    void reload();
+    void keep_both();
+
+    /// Tries again to become the one that may write.
+    void try_lock();
+
+    /// Whether the window may close now. If that is for the user to say, they are asked, and close_decided() tells.
+    bool may_close();
+
+Q_SIGNALS:
+    void close_decided(bool close);
+    void access_changed();
+
+private:
+    using Then = std::function<void()>;
+
+    void take_saved(const platform::SaveOutcome& outcome, OpenDocument::Asked asked);
+    void take_failure(const SaveFailure& failure, OpenDocument::Asked asked);
+    void explain(const platform::SaveOutcome& outcome);
+    void ask_about_change(platform::PackageChange change);
+    void revert_to_saved();
+    void save_to(const QString& path);
+    void ask_to_replace(const QString& path);
+    void move_file(const QString& path);
+    void ask_whether_to_keep();
+    bool try_to_save_before_closing();
+    void decide_close(bool close);
+    QString name() const;
+
+    OpenDocument& document_;
+    WindowModel& model_;
+    Application& application_;
+    QWidget& window_;
+    bool closing_ = false; ///< a save that is running decides whether the window closes
+};
+
+} // namespace quillfern::app

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "app/document_file.h"
+#include "platform/package_watch.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace quillfern::app {
+
+struct DocumentWords {
+    QString title;
+    QString message;
+};
+
+/// `name` is the document's, as the user knows it.
+DocumentWords failure_words(const SaveFailure& failure, const QString& name);
+
+/// Who has the document, and what that means here; one sentence or two.
+QString lock_words(const platform::LockError& error, const QString& name);
+
+/// What others have done to the file, and that nothing of it or of this value is lost.
+DocumentWords change_words(platform::PackageChange change, const QString& name);
+
+/// What a save that succeeded has found and put away, one sentence each; empty: nothing that the user should know.
+QStringList outcome_sentences(const platform::SaveOutcome& outcome);
+
+} // namespace quillfern::app

@@ -1,0 +1,56 @@
+#include "app/notices.h"
+
+#include "app/document_words.h"
+#include "app/open_document.h"
+
+#include <QFileInfo>
+
+namespace quillfern::app {
+namespace {
+
+using Action = Notice::Action;
+using platform::PackageChange;
+
+const Notice::Button save_as = {QStringLiteral("Save As…"), Action::saveAs};
+
+Notice about_lock(const platform::LockError& error, const QString& name)
+{
+    return {QStringLiteral("lock"), lock_words(error, name),
+        {{QStringLiteral("Duplicate"), Action::duplicate}, {QStringLiteral("Try Again"), Action::tryLock}}};
+}
+
+Notice about_change(PackageChange change, const QString& name)
+{
+    const QString title = change_words(change, name).title + QLatin1Char('.');
+    if (change == PackageChange::gone)
+        return {QStringLiteral("file-missing"), title + QStringLiteral(" Everything is still here."), {save_as}};
+    return {QStringLiteral("warning"), title,
+        {{QStringLiteral("Reload"), Action::reload}, {QStringLiteral("Keep Both"), Action::keepBoth}, save_as}};
+}
+
+} // namespace
+
+std::optional<Notice> notice_for(const OpenDocument& document)
+{
+    const DocumentFile& disk = document.disk();
+    const QString name = QFileInfo(disk.path()).fileName();
+    if (!disk.is_writable() && disk.lock_error())
+        return about_lock(*disk.lock_error(), name);
+    if (document.disk_change() != PackageChange::same)
+        return about_change(document.disk_change(), name);
+    if (document.trouble()) {
+        const DocumentWords words = failure_words(*document.trouble(), name);
+        return Notice{QStringLiteral("warning"), words.title + QStringLiteral(". ") + words.message,
+            {{QStringLiteral("Save"), Action::save}, save_as}};
+    }
+    if (!document.recovery().problem().isEmpty())
+        return Notice{QStringLiteral("warning"), document.recovery().problem(), {save_as}};
+    if (document.is_held_back())
+        return Notice{QStringLiteral("info"),
+            QStringLiteral(
+                "These changes were kept when Quillfern closed unexpectedly. The file doesn’t have them yet."),
+            {{QStringLiteral("Save"), Action::save}, {QStringLiteral("Revert to Saved"), Action::revert}}};
+    return std::nullopt;
+}
+
+} // namespace quillfern::app

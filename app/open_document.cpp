@@ -1,0 +1,132 @@
+#include "app/open_document.h"
+
+#include "app/storage.h"
+
+#include <utility>
+
+namespace quillfern::app {
+namespace {
+
+using platform::PackageChange;
+
+} // namespace
+
+OpenDocument::OpenDocument(QuillfernDocument initial, Storage& storage, QObject* parent)
+    : QObject(parent), document_(std::move(initial)), disk_(storage.versions()), recovery_(document_, disk_, storage)
+{
+    connect_parts(storage.pace().idle);
+}
+
+OpenDocument::OpenDocument(grants::OpenedPackage opened, const QString& path, Storage& storage, QObject* parent)
+    : QObject(parent), document_({std::move(opened.package)}), disk_(storage.versions()),
+      recovery_(document_, disk_, storage), notes_(std::move(opened.notes))
+{
+    connect_parts(storage.pace().idle);
+    disk_.settle(path, std::move(opened.place));
+}
+
+void OpenDocument::connect_parts(std::chrono::milliseconds idle)
+{
+    idle_.setSingleShot(true);
+    idle_.setInterval(idle);
+    connect(&idle_, &QTimer::timeout, this, &OpenDocument::save_by_itself);
+    connect(&document_, &Document::changed, this, [this] { idle_.start(); });
+    connect(&disk_, &DocumentFile::path_changed, &watch_, &DiskWatch::watch);
+    connect(&watch_, &DiskWatch::stirred, this, &OpenDocument::look_at_disk);
+}
+
+QString OpenDocument::title() const
+{
+    return document_title(document_.package(), disk_.path());
+}
+
+bool OpenDocument::saves_itself() const
+{
+    return disk_.is_named() && disk_.is_writable() && disk_change_ == PackageChange::same && !held_back_;
+}
+
+void OpenDocument::save(Asked asked)
+{
+    disk_.save(document_.value(), [this, asked](const SaveReport& report) { take(report, asked); });
+}
+
+void OpenDocument::save_as(const QString& path, platform::Existing existing)
+{
+    disk_.save_as(document_.value(), path, existing, [this](const SaveReport& report) { take(report, Asked::byUser); });
+}
+
+void OpenDocument::save_by_itself()
+{
+    if (document_.is_modified() && saves_itself() && !disk_.is_busy())
+        save(Asked::byItself);
+}
+
+void OpenDocument::take(const SaveReport& report, Asked asked)
+{
+    if (report.result)
+        take_success(report, asked);
+    else
+        take_failure(report.result.error(), asked);
+    Q_EMIT condition_changed();
+}
+
+void OpenDocument::take_success(const SaveReport& report, Asked asked)
+{
+    held_back_ = held_back_ && asked == Asked::byItself;
+    disk_change_ = PackageChange::same;
+    trouble_.reset();
+    document_.set_saved(report.written);
+    Q_EMIT saved(*report.result, asked);
+}
+
+void OpenDocument::take_failure(const SaveFailure& failure, Asked asked)
+{
+    const platform::SaveProblem problem = failure.error.problem;
+    if (problem == platform::SaveProblem::changedOnDisk)
+        disk_change_ = PackageChange::changed;
+    else if (problem == platform::SaveProblem::gone)
+        disk_change_ = PackageChange::gone;
+    else if (asked == Asked::byItself)
+        trouble_ = failure;
+    Q_EMIT save_failed(failure, asked);
+}
+
+void OpenDocument::hold_back()
+{
+    held_back_ = true;
+    Q_EMIT condition_changed();
+}
+
+Result<Done, grants::PackageError> OpenDocument::reload()
+{
+    auto opened = disk_.read_again();
+    if (!opened)
+        return fail(opened.error());
+    notes_ = std::move(opened->notes);
+    document_.edit(QStringLiteral("Reload"), opened->package);
+    document_.set_saved({std::move(opened->package)});
+    set_disk_change(PackageChange::same);
+    return Done{};
+}
+
+void OpenDocument::look_at_disk()
+{
+    set_disk_change(disk_.look());
+}
+
+void OpenDocument::set_disk_change(PackageChange change)
+{
+    if (change == std::exchange(disk_change_, change))
+        return;
+    Q_EMIT condition_changed();
+}
+
+void OpenDocument::put_in_safety()
+{
+    disk_.finish();
+    recovery_.write_now();
+    save_by_itself();
+    disk_.finish();
+}
+
+} // namespace quillfern::app

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/export_kind.h"
+
+#include <variant>
+
+namespace quillfern::app {
+
+namespace sheet {
+
+struct Export {
+    ExportKind kind = ExportKind::grantsCSV;
+
+    friend bool operator==(const Export&, const Export&) = default;
+};
+
+struct Welcome {
+    friend bool operator==(const Welcome&, const Welcome&) = default;
+};
+
+} // namespace sheet
+
+/// A sheet of a document window; there is at most one at a time.
+using WindowSheet = std::variant<sheet::Export, sheet::Welcome>;
+
+} // namespace quillfern::app

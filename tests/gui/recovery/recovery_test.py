@@ -1,0 +1,82 @@
+#!/usr/bin/python3
+"""recovery_test.py PROBE [RUNS]: kills an editing program at random moments and looks at what the next start gives
+back: at most the edits of the longest wait may be lost, in untitled documents too, and the file on the disk is whole.
+"""
+import concurrent.futures
+import json
+import os
+import pathlib
+import random
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+LONGEST_WAIT = 0.5  # seconds of edits; the probe's pace
+SLACK = 0.7  # for a loaded machine: writing takes time, too
+STATE_VARIABLES = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR")
+
+
+def environment(folder):
+    own = dict(os.environ, QT_QPA_PLATFORM="offscreen", LANG="C.UTF-8", DBUS_SESSION_BUS_ADDRESS="unix:path=/nowhere")
+    own.update({variable: str(folder) for variable in STATE_VARIABLES})
+    return own
+
+
+def edit_and_kill(probe, folder, package, life):
+    """The edits that were made, as (number, seconds), and when the program died."""
+    editor = subprocess.Popen([probe, "edit", str(folder / "state"), package], stdout=subprocess.PIPE, text=True,
+                              env=environment(folder))
+    first = editor.stdout.readline()
+    time.sleep(life)
+    died = time.monotonic()
+    editor.send_signal(signal.SIGKILL)
+    lines = [first] + editor.stdout.readlines()
+    editor.wait()
+    edits = [line.split() for line in lines if line.endswith("\n")]
+    return [(int(number), int(when) / 1000) for number, when in edits], died
+
+
+def recovered(probe, folder):
+    done = subprocess.run([probe, "recover", str(folder / "state")], capture_output=True, text=True, check=True,
+                          env=environment(folder), timeout=60)
+    return [line.split() for line in done.stdout.splitlines()]
+
+
+def one_crash(probe, number):
+    chance = random.Random(number)
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        package = folder / "Pantry.quillfern"
+        untitled = chance.random() < 0.5
+        if not untitled:
+            package.mkdir()
+            (package / "Quillfern.json").write_text('{"formatVersion": 2, "org": {"name": "0"}}')
+        edits, died = edit_and_kill(probe, folder, "-" if untitled else str(package), chance.uniform(0, 3))
+        on_disk = 0 if untitled else int(json.loads((package / "Quillfern.json").read_text())["org"]["name"])
+        found = recovered(probe, folder)
+        again = recovered(probe, folder)
+        kept = max([on_disk] + [int(line[0]) for line in found])
+        lost = [when for edit, when in edits if edit > kept]
+        problems = []
+        if lost and died - lost[0] > LONGEST_WAIT + SLACK:
+            problems.append(f"{died - lost[0]:.2f} s of edits are lost")
+        if any(line[1] != line[2] for line in found):
+            problems.append(f"attachments are lost: {found}")
+        if found != again:
+            problems.append(f"{found} the first time, {again} the second")
+        return [f"crash {number} ({'untitled' if untitled else 'named'}): {problem}" for problem in problems]
+
+
+def main():
+    probe = sys.argv[1]
+    runs = int(sys.argv[2]) if len(sys.argv) > 2 else 100
+    with concurrent.futures.ThreadPoolExecutor(max_workers=4) as pool:
+        problems = sum(pool.map(lambda number: one_crash(probe, number), range(runs)), [])
+    print("\n".join(problems) or f"{runs} crashes, nothing lost that should be there")
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

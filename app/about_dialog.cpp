@@ -57,9 +57,10 @@ AboutDialog::AboutDialog(QWidget* parent) : Sheet(parent)
     column->addWidget(
         line(QStringLiteral("Not legal advice: check your bylaws and state law."), TextStyle::body, Role::text2, this));
     column->addSpacing(scaled(12));
-    column->addWidget(line(QStringLiteral("Made with Qt (LGPL 3), ICU (Unicode License), simdjson and OpenSSL "
-                                          "(Apache 2.0) and the Inter typeface (SIL OFL 1.1)."),
-        TextStyle::caption, Role::text3, this));
+    column->addWidget(
+        line(QStringLiteral("Made with Qt (LGPL 3), ICU (Unicode License), simdjson and OpenSSL (Apache 2.0), "
+                            "CLI11 (BSD 3-clause), and the typefaces Inter and Liberation (SIL OFL 1.1)."),
+            TextStyle::caption, Role::text3, this));
     column->addSpacing(scaled(16));
     column->addWidget(ok, 0, Qt::AlignHCenter);
     column->setSizeConstraint(QLayout::SetFixedSize);

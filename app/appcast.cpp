@@ -47,11 +47,12 @@ RawItem read_item(QXmlStreamReader& xml)
 {
     RawItem item;
     while (xml.readNextStartElement()) {
+        const bool plain = xml.namespaceUri().isEmpty(); // RSS itself has no namespace
         const bool ours = xml.namespaceUri() == sparkle;
-        if (xml.name() == QLatin1String("enclosure")) {
+        if (plain && xml.name() == QLatin1String("enclosure")) {
             read_enclosure(xml.attributes(), item);
             xml.skipCurrentElement();
-        } else if (!ours && xml.name() == QLatin1String("link")) {
+        } else if (plain && xml.name() == QLatin1String("link")) {
             item.page = text_of_element(xml);
         } else if (ours && xml.name() == QLatin1String("version")) {
             item.version = text_of_element(xml);

@@ -3,7 +3,6 @@
 #include "app/program_version.h"
 
 #include <QByteArray>
-#include <QString>
 #include <QUrl>
 
 #include <optional>

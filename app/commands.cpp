@@ -1,5 +1,7 @@
 #include "app/commands.h"
 
+#include "app/menu_help.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -131,7 +133,7 @@ constexpr auto table = std::to_array<Command>({
     {{"minimize", window, 1, "Minimize", "Ctrl+M"}, [](CommandTarget& target) { target.minimize(); }},
     {{"toggleSidebar", window, 1, "Show or Hide the Sidebar", "F9"},
         [](CommandTarget& target) { target.toggle_sidebar(); }, shows_document},
-    {{"help", help, 0, "Quillfern Help", "F1"}, [](CommandTarget& target) { target.show_help(); }},
+    {{"help", help, 0, menu_help.title(), menu_help.shortcut}, menu_help.action},
     {{"helpReportingDates", help, 1, "Reporting Dates", ""},
         [](CommandTarget& target) { target.show_help(HelpTopic::reports); }},
     {{"helpMotions", help, 1, "Motions and Votes", ""},

@@ -86,7 +86,10 @@ void HelpArticleView::paint_card(QPainter& painter, const QTextTable& table) con
 {
     const QAbstractTextDocumentLayout& layout = *document()->documentLayout();
     const QTextFrameFormat format = table.frameFormat();
+    const QTextTableCellFormat corner = table.cellAt(0, 0).format().toTableCellFormat();
+    // The layout gives a table's place as that of the text in its first cell.
     const QRectF card = layout.frameBoundingRect(const_cast<QTextTable*>(&table))
+                            .translated(-corner.leftPadding(), -corner.topPadding())
                             .adjusted(0, format.topMargin(), 0, -format.bottomMargin())
                             .toAlignedRect();
     desktop::paint_box(painter, card, scaled(10), color(Role::card), color(Role::hairline));

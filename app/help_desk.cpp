@@ -56,24 +56,31 @@ void HelpDesk::email_support(QWidget* asking)
 
 void HelpDesk::check_for_updates(QWidget* asking)
 {
+    if (std::exchange(checking_, true))
+        return;
     feed_->fetch([this, above = QPointer<QWidget>(asking)](const std::optional<QByteArray>& feed) {
-        const UpdateAnswer answer = judge_updates(feed, QCoreApplication::applicationVersion(), QUrl(web_address));
-        switch (answer.kind) {
-        case UpdateAnswer::Kind::failed:
-            desktop::show_alert(answer.words, above);
-            break;
-        case UpdateAnswer::Kind::upToDate:
-            desktop::show_note(answer.words, QStringLiteral("check"), above);
-            break;
-        case UpdateAnswer::Kind::newer:
-            desktop::offer(answer.words,
-                {QStringLiteral("info"), desktop::IconTile::Tone::accent, QStringLiteral("Download…"), false}, above,
-                [this, above, page = answer.download] {
-                    open_or_tell(page, QStringLiteral("Couldn’t open a browser"),
-                        QStringLiteral("The download is at %1.").arg(page.toDisplayString()), above);
-                });
-        }
+        checking_ = false;
+        tell_about_updates(judge_updates(feed, QCoreApplication::applicationVersion(), QUrl(web_address)), above);
     });
+}
+
+void HelpDesk::tell_about_updates(const UpdateAnswer& answer, QWidget* asking)
+{
+    switch (answer.kind) {
+    case UpdateAnswer::Kind::failed:
+        desktop::show_alert(answer.words, asking);
+        break;
+    case UpdateAnswer::Kind::upToDate:
+        desktop::show_note(answer.words, QStringLiteral("check"), asking);
+        break;
+    case UpdateAnswer::Kind::newer:
+        desktop::offer(answer.words,
+            {QStringLiteral("info"), desktop::IconTile::Tone::accent, QStringLiteral("Download…"), false}, asking,
+            [this, page = answer.download, above = QPointer<QWidget>(asking)] {
+                open_or_tell(page, QStringLiteral("Couldn’t open a browser"),
+                    QStringLiteral("The download is at %1.").arg(page.toDisplayString()), above);
+            });
+    }
 }
 
 void HelpDesk::open_or_tell(const QUrl& url, const QString& title, const QString& instead, QWidget* asking)
@@ -90,6 +97,7 @@ void HelpDesk::use(std::unique_ptr<desktop::UrlOpener> opener)
 void HelpDesk::use(std::unique_ptr<UpdateFeed> feed)
 {
     feed_ = std::move(feed);
+    checking_ = false; // the old feed answers no more
 }
 
 } // namespace quillfern::app

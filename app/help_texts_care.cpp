@@ -7,26 +7,23 @@ HelpArticle sharing()
     return {
         {
             HelpParagraph{
-                "A document is a folder that ends in .quillfern. It holds the records as readable text "
-                "(Quillfern.json), the attached files (Attachments) and the logo (Logo.png). Copy, back up, zip "
-                "or send the folder as a whole."},
+                "A document is a package: a folder whose name ends in .quillfern, shown as one file where the desktop "
+                "can do so. It holds the records as readable text (Quillfern.json), the attached files (Attachments) "
+                "and the logo (Logo.png). It can be backed up, copied, zipped or sent, always as a whole."},
             HelpHeading{"Saving"},
             HelpParagraph{
-                "Saving writes a complete new copy beside the old one and then exchanges the two in one step. "
-                "What stands on disk is always either the old document or the new one, even if the power fails in "
-                "between."},
+                "Saving writes a complete new copy beside the old one and then exchanges the two in one step. What "
+                "stands on disk is always either the old document or the new one, even if the power fails in between."},
             HelpHeading{"With others"},
             HelpParagraph{"Two people shouldn’t edit the same file at the same time: there is no way to merge their "
                           "changes. In a shared or synced folder, let one person finish, and wait until the folder has "
                           "synced, before the next one opens the file."},
-            HelpParagraph{
-                "If a sync program leaves two copies behind, open both, decide which one is right, and put the "
-                "other one away."},
+            HelpParagraph{"If a sync program leaves two copies behind, open both, decide which one is right, and put "
+                          "the other one away."},
             HelpHeading{"Backups"},
-            HelpParagraph{
-                "Back up the file like any other important document, and keep more than one backup. A file that "
-                "can’t be read is never written to; open the backup instead. A file from a newer version of "
-                "Quillfern is left exactly as it is until you update."},
+            HelpParagraph{"Back up the file like any other important document, and keep more than one backup. A file "
+                          "that can’t be read is never written to; open the backup instead. A file from a newer "
+                          "version of Quillfern is left exactly as it is until you update."},
         },
         {HelpTopic::files, HelpTopic::privacy},
     };
@@ -36,16 +33,14 @@ HelpArticle privacy()
 {
     return {
         {
+            HelpParagraph{"Quillfern sends nothing anywhere. It has no account and no server, and it counts nothing. "
+                          "It makes files, and you decide where they go."},
             HelpParagraph{
-                "Quillfern sends nothing anywhere. It has no account and no server, and it counts nothing. It "
-                "makes files, and you decide where they go."},
-            HelpParagraph{
-                "Two commands reach beyond this computer, and only when you choose them. Check for Updates… "
-                "fetches the list of versions from the maker’s web site; it tells that site the version you have, "
-                "and nothing about you or your files. Email Support opens a new message in your own mail program."},
-            HelpParagraph{
-                "Dates that you add to your calendar and reminders stay on this computer, unless you have set up "
-                "your calendar to sync with a service."},
+                "Two commands reach beyond this computer, and only when you choose them. Check for Updates… fetches "
+                "the list of versions from the maker’s web site; it tells that site the version you have, and nothing "
+                "about you or your files. Email Support opens a new message in your own mail program."},
+            HelpParagraph{"Dates that you add to your calendar and reminders stay on this computer, unless you have "
+                          "set up your calendar to sync with a service."},
             HelpParagraph{"The file is not encrypted: whoever can open the folder can read it. If it holds anything "
                           "sensitive, encrypt the disk and take care where copies and backups go."},
         },
@@ -61,14 +56,12 @@ HelpArticle not_do()
                 {
                     {"Give legal advice",
                         "Your bylaws and state law say what makes a quorum, which vote a motion needs, how early a "
-                        "notice "
-                        "goes out and what minutes must hold. Quillfern counts by the rules that you set."},
+                        "notice goes out and what minutes must hold. Quillfern counts by the rules that you set."},
                     {"Send anything",
                         "It makes files and messages; you send them. It submits no application or report to a funder."},
                     {"Keep the books",
                         "It follows what was awarded and what came in, by grant. Spending, restricted funds and "
-                        "receipts "
-                        "belong in your accounting."},
+                        "receipts belong in your accounting."},
                     {"Find funders",
                         "It keeps what you know about them. Details taken from an IRS Form 990-PF are as filed; verify "
                         "them with the funder."},

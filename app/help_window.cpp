@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QShortcut>
 
 namespace quillfern::app {
@@ -27,7 +28,7 @@ HelpWindow::HelpWindow(Application& application, AppModel& model)
       article_(new HelpArticleView(this))
 {
     setObjectName(QStringLiteral("helpWindow"));
-    setWindowTitle(QStringLiteral("Quillfern Help"));
+    setWindowTitle(QStringLiteral("Help — Quillfern"));
     // A window to read in needs no menu bar; its commands keep their shortcuts.
     for (const QAction* menu : menuBar()->actions())
         addActions(menu->menu()->actions());
@@ -41,7 +42,8 @@ HelpWindow::HelpWindow(Application& application, AppModel& model)
     row->addWidget(article_, 1);
     setCentralWidget(content);
     setMinimumSize(scaled(720), scaled(480));
-    resize(scaled(1120), scaled(768));
+    const QSize room = screen()->availableSize() - QSize(scaled(20), scaled(40)); // for the desktop's own frame
+    resize(QSize(scaled(1120), scaled(768)).boundedTo(room));
 
     connect(list_, &HelpTopicList::chosen, &model_, &AppModel::set_help_topic);
     connect(article_, &HelpArticleView::topic_chosen, &model_, &AppModel::set_help_topic);
@@ -65,6 +67,7 @@ QWidget* HelpWindow::make_side()
         search_->setFocus(Qt::ShortcutFocusReason);
         search_->selectAll();
     });
+    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &HelpWindow::leave);
     nothing_found_->setWordWrap(true);
     nothing_found_->setContentsMargins(scaled(10), 0, scaled(10), 0);
     nothing_found_->hide();
@@ -97,18 +100,22 @@ void HelpWindow::search(const QString& text)
     nothing_found_->setVisible(found == 0);
 }
 
+/// Esc gives up the search; when there is none, the window.
+void HelpWindow::leave()
+{
+    if (search_->text().isEmpty())
+        close();
+    else
+        search_->clear();
+}
+
 bool HelpWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == search_ && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Escape)
-            search_->clear();
-        else if (key == Qt::Key_Down)
-            list_->setFocus(Qt::OtherFocusReason);
-        if (key == Qt::Key_Escape || key == Qt::Key_Down)
-            return true;
-    }
-    return AppWindow::eventFilter(watched, event);
+    const bool down = watched == search_ && event->type() == QEvent::KeyPress
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down;
+    if (down)
+        list_->setFocus(Qt::TabFocusReason);
+    return down || AppWindow::eventFilter(watched, event);
 }
 
 } // namespace quillfern::app

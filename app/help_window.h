@@ -28,6 +28,7 @@ private:
     QWidget* make_side();
     void show_topic(HelpTopic topic);
     void search(const QString& text);
+    void leave();
 
     AppModel& model_;
     QLineEdit* search_;

@@ -127,11 +127,10 @@ private:
         around.setTopPadding(scaled(above));
         around.setBottomPadding(scaled(above));
         around.setVerticalAlignment(QTextCharFormat::AlignMiddle);
-        cell.setFormat(around);
         QTextCursor cursor = cell.firstCursorPosition();
         cursor.setBlockFormat(lines(style, 0, 0));
-        cursor.setBlockCharFormat(letters(style, role));
         cursor.insertText(to_qt(text), letters(style, role));
+        cell.setFormat(around); // last: the cell keeps its format where its first paragraph keeps that of its letters
     }
 
     QTextCursor cursor_;

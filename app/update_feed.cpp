@@ -34,13 +34,10 @@ bool is_loopback(const QUrl& url)
     return QHostAddress(url.host()).isLoopback();
 }
 
-std::optional<QByteArray> answer_of(QNetworkReply& reply)
+bool is_whole(const QNetworkReply& reply)
 {
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (reply.error() != QNetworkReply::NoError || status != 200)
-        return std::nullopt;
-    const QByteArray bytes = reply.read(most_bytes + 1);
-    return bytes.size() <= most_bytes ? std::optional(bytes) : std::nullopt;
+    return reply.error() == QNetworkReply::NoError && status == 200;
 }
 
 } // namespace
@@ -59,13 +56,11 @@ bool WebUpdateFeed::may_ask(const QUrl& url) const
 
 void WebUpdateFeed::fetch(Done done)
 {
-    if (fetching_ || !may_ask(address_))
+    if (!may_ask(address_))
         return done(std::nullopt);
-    fetching_ = true;
     if (!network_)
         network_ = std::make_unique<QNetworkAccessManager>();
     QNetworkReply* reply = network_->get(request_for(address_));
-    reply->setReadBufferSize(most_bytes + 1); // a server that sends more is left waiting
     QTimer::singleShot(limits_.patience, reply, &QNetworkReply::abort);
     QObject::connect(reply, &QNetworkReply::redirected, reply, [this, reply](const QUrl& target) {
         if (may_ask(target))
@@ -73,14 +68,15 @@ void WebUpdateFeed::fetch(Done done)
         else
             reply->abort();
     });
-    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
-        if (reply->bytesAvailable() > most_bytes)
+    const auto bytes = std::make_shared<QByteArray>();
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply, bytes] {
+        bytes->append(reply->readAll());
+        if (bytes->size() > most_bytes)
             reply->abort();
     });
-    QObject::connect(reply, &QNetworkReply::finished, reply, [this, reply, done = std::move(done)] {
-        fetching_ = false;
+    QObject::connect(reply, &QNetworkReply::finished, reply, [reply, bytes, done = std::move(done)] {
         reply->deleteLater();
-        done(answer_of(*reply));
+        done(is_whole(*reply) ? std::optional(*bytes) : std::nullopt);
     });
 }
 

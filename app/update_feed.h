@@ -39,7 +39,6 @@ public:
     WebUpdateFeed(QUrl address, Limits limits);
     ~WebUpdateFeed() override;
 
-    /// Only one fetch at a time is useful; a second one gets nothing.
     void fetch(Done done) override;
 
 private:
@@ -48,7 +47,6 @@ private:
     QUrl address_;
     Limits limits_;
     std::unique_ptr<QNetworkAccessManager> network_; ///< made with the first fetch
-    bool fetching_ = false;
 };
 
 } // namespace quillfern::app

@@ -33,6 +33,11 @@ constexpr bool has_place(const CommandState& state)
     return can_edit(state) && state.isNamed;
 }
 
+constexpr bool can_revert(const CommandState& state)
+{
+    return has_place(state) && state.canRevert;
+}
+
 constexpr bool can_undo(const CommandState& state)
 {
     return state.canUndo;
@@ -72,7 +77,7 @@ constexpr auto table = std::to_array<Command>({
         shows_document},
     {{"rename", file, 1, "Rename…", ""}, [](CommandTarget& target) { target.rename(); }, has_place},
     {{"moveTo", file, 1, "Move To…", ""}, [](CommandTarget& target) { target.move_to(); }, has_place},
-    {{"revert", file, 1, "Revert to Saved", ""}, [](CommandTarget& target) { target.revert(); }, has_place},
+    {{"revert", file, 1, "Revert to Saved", ""}, [](CommandTarget& target) { target.revert(); }, can_revert},
     {{"exportBoardPDF", file, file_export_group, "Export Board Summary PDF…", "Ctrl+E"}},
     {{"exportClientPDF", file, file_export_group, "Export Client Status Report…", ""}},
     {{"exportGrantsCSV", file, file_export_group, "Export Grants Spreadsheet (CSV)…", ""},

@@ -16,6 +16,7 @@ struct CommandState {
     bool isWritable = false; ///< the document may be changed
     bool isNamed = false; ///< it lives in a file
     bool isModified = false; ///< it differs from what was saved last
+    bool canRevert = false; ///< there is a saved state that differs, or an earlier version
     bool canUndo = false;
     bool canRedo = false;
     desktop::TextAbilities text = {}; ///< of the field that has the keyboard; known while the Edit menu is open

@@ -178,6 +178,12 @@ void DocumentDesk::revert()
     sheet->open();
 }
 
+bool DocumentDesk::can_revert() const
+{
+    const DocumentFile& disk = document_.disk();
+    return disk.is_named() && (document_.document().is_modified() || disk.has_versions());
+}
+
 void DocumentDesk::revert_to_saved()
 {
     if (const auto& saved = document_.document().saved())

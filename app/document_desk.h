@@ -31,6 +31,7 @@ public:
     void rename();
     void move_to();
     void revert();
+    bool can_revert() const;
 
     /// What others have written takes the place of this value; or this value goes to a file of its own beside theirs.
     void reload();

@@ -116,6 +116,11 @@ Result<quillfern::Done, SaveFailure> DocumentFile::move_to(const QuillfernDocume
     return quillfern::Done{};
 }
 
+bool DocumentFile::has_versions() const
+{
+    return !versions_.versions_of(bytes_of(path_)).empty();
+}
+
 grants::RecoveryInfo DocumentFile::recovery_info(const grants::OrgPackage& package, Instant now) const
 {
     return {bytes_of(path_), document_title(package, path_).toStdString(), base(), now};

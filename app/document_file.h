@@ -73,6 +73,9 @@ public:
     /// To another folder or name, with all that is on the disk; `document` is what it holds. Nothing is replaced.
     Result<quillfern::Done, SaveFailure> move_to(const QuillfernDocument& document, const QString& path);
 
+    /// Whether earlier saves have kept a state.
+    bool has_versions() const;
+
     /// What a snapshot says of where the document lives and what it builds on.
     grants::RecoveryInfo recovery_info(const grants::OrgPackage& package, Instant now) const;
 

@@ -148,6 +148,7 @@ CommandState MainWindow::command_state() const
     state.isWritable = document_->disk().is_writable();
     state.isNamed = document_->disk().is_named();
     state.isModified = document.is_modified();
+    state.canRevert = desk_->can_revert();
     state.canUndo = document.undo_stack().canUndo();
     state.canRedo = document.undo_stack().canRedo();
     return state;
@@ -316,8 +317,11 @@ void MainWindow::show_alert(const AlertItem& item)
 
 void MainWindow::show_toast(const Toast& toast)
 {
-    if (!toast_)
+    if (!toast_) {
         toast_ = new desktop::Toast(pages_);
+        connect(toast_, &desktop::Toast::gone, this,
+            [this] { model_.edit([](WindowState& state) { state.toast.reset(); }); });
+    }
     toast_->show_message(QString::fromStdString(toast.text));
 }
 

@@ -49,6 +49,15 @@ void draw_check(const QStyleOptionMenuItem& option, QPainter& painter, Role role
     painter.drawPixmap(corner, icon_pixmap(QStringLiteral("check"), role, side, painter.device()->devicePixelRatioF()));
 }
 
+/// The item opens a menu of its own.
+void draw_arrow(const QStyleOptionMenuItem& option, QPainter& painter, Role role)
+{
+    const int side = scaled(15);
+    const QPoint corner(option.rect.right() - scaled(16) - side + scaled(4), option.rect.center().y() - side / 2);
+    painter.drawPixmap(
+        corner, icon_pixmap(QStringLiteral("chevron-right"), role, side, painter.device()->devicePixelRatioF()));
+}
+
 } // namespace
 
 void draw_menu_bar_item(const QStyleOptionMenuItem& option, QPainter& painter)
@@ -85,6 +94,8 @@ void draw_menu_item(const QStyleOptionMenuItem& option, QPainter& painter)
     const QRect box = option.rect.adjusted(scaled(check_room), 0, -scaled(16), 0);
     draw_text(painter, box, text.title, role, Qt::AlignLeft);
     draw_text(painter, box, text.shortcut, chosen ? role : Role::text3, Qt::AlignRight);
+    if (option.menuItemType == QStyleOptionMenuItem::SubMenu)
+        draw_arrow(option, painter, role);
 }
 
 QSize menu_item_size(const QStyleOptionMenuItem& option)

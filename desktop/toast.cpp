@@ -66,12 +66,16 @@ void Toast::place()
 
 void Toast::fade_to(double opacity)
 {
-    auto* fade = new QPropertyAnimation(opacity_, "opacity", this);
-    fade->setDuration(fade_ms);
-    fade->setEndValue(opacity);
+    delete fade_; // a message that comes while another goes stays
+    fade_ = new QPropertyAnimation(opacity_, "opacity", this);
+    fade_->setDuration(fade_ms);
+    fade_->setEndValue(opacity);
     if (opacity <= 0)
-        connect(fade, &QPropertyAnimation::finished, this, &QWidget::hide);
-    fade->start(QAbstractAnimation::DeleteWhenStopped);
+        connect(fade_, &QPropertyAnimation::finished, this, [this] {
+            hide();
+            Q_EMIT gone();
+        });
+    fade_->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 bool Toast::eventFilter(QObject* watched, QEvent* event)

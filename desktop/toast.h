@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QBasicTimer>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
 class QGraphicsOpacityEffect;
+class QPropertyAnimation;
 
 namespace quillfern::desktop {
 
@@ -17,6 +19,9 @@ public:
     explicit Toast(QWidget* page);
 
     void show_message(const QString& text, const QString& icon_name = QStringLiteral("carried"));
+
+Q_SIGNALS:
+    void gone(); ///< by itself
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,6 +38,7 @@ private:
     QString icon_name_;
     QBasicTimer timer_;
     QGraphicsOpacityEffect* opacity_;
+    QPointer<QPropertyAnimation> fade_; ///< while it appears or goes
 };
 
 } // namespace quillfern::desktop

@@ -47,6 +47,16 @@ WindowState first_state(const grants::GrantFile& file, const grants::Day& today)
     return state;
 }
 
+/// Messages and sheets come and go over a page that stays as it is.
+bool looks_the_same(WindowState before, const WindowState& after)
+{
+    before.sheet = after.sheet;
+    before.request = after.request;
+    before.toast = after.toast;
+    before.alert = after.alert;
+    return before == after;
+}
+
 /// A logo that cannot be read is none: the window must open all the same.
 QByteArray logo_bytes(const grants::OrgPackage& package)
 {
@@ -72,7 +82,6 @@ MainWindow::MainWindow(Application& application, std::unique_ptr<OpenDocument> d
     connect_pages();
     redraw();
     show_condition();
-    tool_bar_->update_buttons();
     restore_placement();
     arrange();
     pages_->focus_page();
@@ -137,6 +146,7 @@ void MainWindow::show_condition()
     setWindowTitle(document_->title() + QStringLiteral("[*] — Quillfern"));
     setWindowModified(document_->document().is_modified());
     update_commands();
+    tool_bar_->update_buttons();
     notice_->show_notice(notice_for(*document_));
 }
 
@@ -214,6 +224,8 @@ void MainWindow::take_state(const WindowState& before, const WindowState& after)
         show_toast(*after.toast);
     if (before.today != after.today)
         return redraw();
+    if (looks_the_same(before, after))
+        return;
     const bool keyboard_on_page = pages_->has_keyboard();
     show_state();
     if (before.selection != after.selection && keyboard_on_page)

@@ -8,6 +8,8 @@ namespace {
 
 constexpr int wrong_command_line = 2;
 
+const QCommandLineOption help_option(
+    {QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print the options."));
 const QCommandLineOption sample_option(QStringLiteral("sample"), QStringLiteral("Open the sample organization."));
 const QCommandLineOption scheme_option(QStringLiteral("scheme"),
     QStringLiteral("Colors: light or dark instead of the desktop's."), QStringLiteral("light|dark"));
@@ -19,9 +21,8 @@ const QCommandLineOption exit_option(QStringLiteral("exit-after-paint"),
 void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(QStringLiteral("Grants and the board for small nonprofits."));
-    parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({sample_option, scheme_option, today_option, exit_option});
+    parser.addOptions({help_option, sample_option, scheme_option, today_option, exit_option});
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Organizations to open (.quillfern)."), QStringLiteral("[files…]"));
 }
@@ -63,8 +64,9 @@ Options read_options(const QStringList& arguments, Strictness strictness)
     options.scheme = parser.value(scheme_option);
     options.today = grants::Day::parse(parser.value(today_option).toStdString());
     options.exit_after_paint = parser.isSet(exit_option);
-    if (parser.isSet(QStringLiteral("help")))
-        options.text = parser.helpText().toStdString();
+    if (parser.isSet(help_option)) // before there is an application, the parser knows no name of the program
+        options.text =
+            parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("quillfern")).toStdString();
     else if (parser.isSet(QStringLiteral("version")))
         options.text = "quillfern " + QCoreApplication::applicationVersion().toStdString() + '\n';
     else if (strictness == Strictness::strict)

@@ -7,11 +7,10 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 packaging/install_packages.sh build package
-packaging/build.sh release all
 if [ $# -gt 0 ]; then
     cmake --log-level=WARNING --preset release "$@"
-    packaging/build.sh release all
 fi
+packaging/build.sh release all
 
 # The files in the packages carry the time of the last commit, so that the same sources give the same packages.
 if SOURCE_DATE_EPOCH="$(git log -1 --format=%ct 2>/dev/null)"; then

@@ -21,8 +21,9 @@ const QCommandLineOption exit_option(QStringLiteral("exit-after-paint"),
 void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(QStringLiteral("Grants and the board for small nonprofits."));
+    parser.addOption(help_option);
     parser.addVersionOption();
-    parser.addOptions({help_option, sample_option, scheme_option, today_option, exit_option});
+    parser.addOptions({sample_option, scheme_option, today_option, exit_option});
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Organizations to open (.quillfern)."), QStringLiteral("[files…]"));
 }

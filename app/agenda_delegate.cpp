@@ -36,15 +36,24 @@ QString qt(const std::string& text)
     return QString::fromStdString(text);
 }
 
-/// Where the parts of a row stand. The words take what the fixed columns leave.
+/// The room that the row's button takes, if it has one.
+int action_width(const QWidget* view, const QModelIndex& index)
+{
+    const QWidget* button = qobject_cast<const QListView*>(view)->indexWidget(index);
+    return button ? button->width() : 0;
+}
+
+/// Where the parts of a row stand. The words take what the fixed columns and the button leave, and the room of an
+/// amount that the row does not have.
 struct RowBoxes {
     QRect date;
     QRect tile;
     QRect words;
+    QRect action;
     QRect amount;
     QRect relative;
 
-    explicit RowBoxes(const QRect& row)
+    RowBoxes(const QRect& row, bool has_amount, int action_width)
     {
         const auto column = [&row](int left, int width) { return QRect(left, row.top(), width, row.height()); };
         const int gap = scaled(column_gap);
@@ -53,8 +62,10 @@ struct RowBoxes {
         tile = QRect(date.right() + 1 + gap, row.top() + (row.height() - side) / 2, side, side);
         relative = column(row.right() + 1 - scaled(right_padding) - scaled(relative_width), scaled(relative_width));
         amount = column(relative.left() - gap - scaled(amount_width), scaled(amount_width));
+        const int right_columns = has_amount ? amount.left() : relative.left();
+        action = column(right_columns - gap - action_width, action_width);
         const int words_left = tile.right() + 1 + gap;
-        words = column(words_left, amount.left() - gap - words_left);
+        words = column(words_left, (action_width > 0 ? action.left() : right_columns) - gap - words_left);
     }
 };
 
@@ -111,12 +122,12 @@ void paint_relative(QPainter& painter, const QRect& box, const AgendaCell& cell)
         text_font(near ? TextStyle::secondStrong : TextStyle::second));
 }
 
-void paint_cell(QPainter& painter, const QStyleOptionViewItem& option, const AgendaCell& cell)
+void paint_cell(QPainter& painter, const QStyleOptionViewItem& option, const AgendaCell& cell, int action_width)
 {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     const bool overdue = cell.bucket == Bucket::overdue;
     desktop::paint_card_row(painter, option.rect, edge_of(cell), row_fill(option));
-    const RowBoxes boxes(option.rect);
+    const RowBoxes boxes(option.rect, !cell.row.amount.empty(), action_width);
     paint_date(painter, boxes.date, cell.row);
     const Role tile = selected ? Role::card : overdue ? Role::dangerTint : Role::neutral;
     desktop::paint_icon_tile(painter, boxes.tile, qt(cell.row.icon), tile, overdue ? Role::danger : Role::text2);
@@ -153,13 +164,22 @@ void AgendaDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     if (const auto* heading = std::get_if<AgendaHeading>(&line))
         paint_heading(*painter, option.rect, *heading);
     else
-        paint_cell(*painter, option, *std::get_if<AgendaCell>(&line));
+        paint_cell(*painter, option, *std::get_if<AgendaCell>(&line), action_width(option.widget, index));
 }
 
 QSize AgendaDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const
 {
     const bool is_cell = index.flags().testFlag(Qt::ItemIsSelectable);
     return {0, is_cell ? scaled(row_height) : agenda_heading_height()};
+}
+
+void AgendaDelegate::updateEditorGeometry(
+    QWidget* action, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const auto& model = static_cast<const AgendaModel&>(*index.model());
+    const AgendaRow& row = std::get_if<AgendaCell>(&model.line(index.row()))->row;
+    const QRect box = RowBoxes(option.rect, !row.amount.empty(), action->width()).action;
+    action->move(box.left(), box.top() + (box.height() - action->height()) / 2);
 }
 
 /// Words that did not fit are told in full.
@@ -170,7 +190,7 @@ bool AgendaDelegate::helpEvent(
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const auto& model = static_cast<const AgendaModel&>(*index.model());
     const AgendaRow& row = std::get_if<AgendaCell>(&model.line(index.row()))->row;
-    const int room = RowBoxes(option.rect).words.width();
+    const int room = RowBoxes(option.rect, !row.amount.empty(), action_width(view, index)).words.width();
     const auto elided = [room](const std::string& text, TextStyle style) {
         return QFontMetrics(text_font(style)).horizontalAdvance(qt(text)) > room;
     };

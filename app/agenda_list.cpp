@@ -1,6 +1,10 @@
 #include "app/agenda_list.h"
 
+#include "app/action_button.h"
 #include "app/agenda_delegate.h"
+#include "app/agenda_model.h"
+
+#include <QKeyEvent>
 
 #include <algorithm>
 #include <cstdlib>
@@ -23,11 +27,108 @@ AgendaList::AgendaList(QWidget* parent) : QListView(parent)
     setItemDelegate(new AgendaDelegate(this));
 }
 
-void AgendaList::setModel(QAbstractItemModel* model)
+void AgendaList::set_agenda(AgendaModel* agenda)
 {
-    QListView::setModel(model);
-    connect(model, &QAbstractItemModel::modelReset, this, &AgendaList::take_height);
+    agenda_ = agenda;
+    setModel(agenda);
+    connect(agenda, &AgendaModel::modelAboutToBeReset, this, &AgendaList::take_button_away);
+    connect(agenda, &AgendaModel::modelReset, this, &AgendaList::take_height);
     take_height();
+}
+
+void AgendaList::show_sections(const std::vector<AgendaSection>& sections)
+{
+    const QStringList ids = ids_by_nearness();
+    const auto selection = chosen().isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+    agenda_->set_sections(sections);
+    if (currentIndex().isValid())
+        return; // nothing has changed
+    for (const QString& id : ids)
+        if (const QModelIndex row = agenda_->index_of(id); row.isValid())
+            return selectionModel()->setCurrentIndex(row, selection);
+}
+
+/// The current row's item, those below it, and then those above it.
+QStringList AgendaList::ids_by_nearness() const
+{
+    QStringList ids;
+    if (!currentIndex().isValid())
+        return ids;
+    const int current = currentIndex().row();
+    for (int row = current; row < agenda_->rowCount(); ++row)
+        ids.append(agenda_->index(row).data(AgendaModel::id_role).toString());
+    for (int row = current - 1; row >= 0; --row)
+        ids.append(agenda_->index(row).data(AgendaModel::id_role).toString());
+    ids.removeAll(QString()); // headings
+    return ids;
+}
+
+void AgendaList::set_actions_offered(bool offered)
+{
+    if (offered == actions_offered_)
+        return;
+    actions_offered_ = offered;
+    take_button_away();
+    place_button();
+}
+
+/// The current row while it is marked as chosen; when the page opens, the keyboard's place is not yet a choice.
+QModelIndex AgendaList::chosen() const
+{
+    const QModelIndex row = currentIndex();
+    return row.isValid() && selectionModel()->isSelected(row) ? row : QModelIndex();
+}
+
+void AgendaList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    take_button_away();
+    place_button();
+}
+
+void AgendaList::take_button_away()
+{
+    if (!button_)
+        return;
+    if (button_->hasFocus())
+        setFocus(Qt::OtherFocusReason);
+    button_->hide();
+    button_ = nullptr;
+    setIndexWidget(button_row_, nullptr); // deletes it later: it may be what is being clicked
+}
+
+void AgendaList::place_button()
+{
+    const QModelIndex row = chosen();
+    const QString title = row.data(AgendaModel::action_role).toString();
+    if (!actions_offered_ || title.isEmpty())
+        return;
+    auto* button = new ActionButton(title, viewport());
+    button->setAccessibleDescription(row.data(Qt::AccessibleTextRole).toString());
+    connect(button, &ActionButton::clicked, this, &AgendaList::request_action);
+    button_ = button;
+    button_row_ = row;
+    setIndexWidget(row, button);
+}
+
+void AgendaList::request_action()
+{
+    if (button_)
+        Q_EMIT action_requested(chosen().data(AgendaModel::id_role).toString());
+}
+
+/// The toolkit takes the row's button for an editor and would hand it the keyboard.
+bool AgendaList::edit(const QModelIndex&, EditTrigger, QEvent*)
+{
+    return false;
+}
+
+void AgendaList::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space || !button_)
+        return QListView::keyPressEvent(event);
+    if (!event->isAutoRepeat()) // a key held down must not go through the rows that move up
+        request_action();
 }
 
 void AgendaList::take_height()

@@ -38,8 +38,12 @@ QVariant cell_data(const AgendaCell& cell, int role)
         return qt(cell.row.title);
     case Qt::AccessibleTextRole:
         return qt(cell.row.spoken);
+    case Qt::AccessibleDescriptionRole:
+        return cell.row.action.empty() ? QString() : QStringLiteral("Space: %1").arg(qt(cell.row.action));
     case AgendaModel::id_role:
         return qt(cell.row.id);
+    case AgendaModel::action_role:
+        return qt(cell.row.action);
     default:
         return {};
     }

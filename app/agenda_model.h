@@ -36,6 +36,7 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
+    /// Equal ones change nothing.
     void set_sections(const std::vector<AgendaSection>& sections);
 
     const Line& line(int row) const { return lines_[static_cast<std::size_t>(row)]; }
@@ -43,6 +44,9 @@ public:
 
     /// The item's id, by which a choice survives a new day.
     static constexpr int id_role = Qt::UserRole;
+
+    /// The title of what can be done with the item; empty: nothing.
+    static constexpr int action_role = Qt::UserRole + 1;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

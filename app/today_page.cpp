@@ -58,7 +58,8 @@ QWidget* TodayPage::make_scrolled_part()
 
     auto* content = new QWidget(scroll_);
     list_ = new AgendaList(content);
-    list_->setModel(model_);
+    list_->set_agenda(model_);
+    connect(list_, &AgendaList::action_requested, this, &TodayPage::action_requested);
     columns_ = new QHBoxLayout;
     columns_->setSpacing(scaled(20));
     columns_->addWidget(list_, 1, Qt::AlignTop);
@@ -108,14 +109,16 @@ void TodayPage::show_award_money(const AwardMoney& money)
 void TodayPage::show_presentation(const TodayPresentation& presentation)
 {
     show_facts(presentation);
-    const QString chosen = list_->currentIndex().data(AgendaModel::id_role).toString();
-    model_->set_sections(presentation.sections);
-    if (!chosen.isEmpty() && !list_->currentIndex().isValid())
-        list_->setCurrentIndex(model_->index_of(chosen));
+    list_->show_sections(presentation.sections);
     const bool empty = presentation.sections.empty();
     if (empty && body_->count() == 1)
         body_->addWidget(make_empty_state(body_)); // seldom needed, so not made before
     body_->setCurrentIndex(empty ? 1 : 0);
+}
+
+void TodayPage::set_actions_offered(bool offered)
+{
+    list_->set_actions_offered(offered);
 }
 
 void TodayPage::show_facts(const TodayPresentation& presentation)

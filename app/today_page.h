@@ -31,6 +31,13 @@ public:
     /// The width of the right column; 0: it goes below the agenda.
     void set_right_column(int width);
 
+    /// Whether the document may be changed.
+    void set_actions_offered(bool offered);
+
+Q_SIGNALS:
+    /// What the row of this agenda item offers is wanted: see agenda_edit().
+    void action_requested(const QString& item_id);
+
 private:
     QWidget* make_scrolled_part();
     QWidget* make_right_column(QWidget* parent);

@@ -1,5 +1,6 @@
 #include "app/today_presentation.h"
 
+#include "app/agenda_edit.h"
 #include "app/day_words.h"
 #include "grants/labels.h"
 
@@ -59,6 +60,8 @@ AgendaRow row_of(const AgendaItem& item, const std::string& currency, const Day&
     row.title = item.grantTitle;
     row.line = joined({kind, item.detail, item.funderName}, " · ");
     row.amount = item.amount ? display_text(*item.amount, currency, Lang::en) : std::string();
+    if (const auto action = action_of(item))
+        row.action = action_title(*action);
     row.relative = relative_day(item.day, today);
     row.spoken = joined({item.grantTitle, kind, item.detail, item.funderName,
                             display_text(item.day, Lang::en, grants::DateStyle::full), row.relative, row.amount},

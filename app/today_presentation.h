@@ -18,6 +18,7 @@ struct AgendaRow {
     std::string title; ///< the grant's
     std::string line; ///< kind, detail and funder, as far as there are any
     std::string amount; ///< empty when the item has none
+    std::string action; ///< what can be done with it at once: Mark Submitted; empty: nothing
     std::string relative;
     std::string spoken; ///< all of it in one sentence, for screen readers
 

@@ -20,6 +20,7 @@ struct CommandState {
     bool canUndo = false;
     bool canRedo = false;
     desktop::TextAbilities text = {}; ///< of the field that has the keyboard; known while the Edit menu is open
+    bool showsGrant = false; ///< one grant's detail is open
     bool showsMeeting = false; ///< the board's workspace shows a meeting
 
     friend bool operator==(const CommandState&, const CommandState&) = default;

@@ -1,5 +1,6 @@
 #include "app/main_window.h"
 
+#include "app/agenda_edit.h"
 #include "app/application.h"
 #include "app/close_guard.h"
 #include "app/document_desk.h"
@@ -19,6 +20,8 @@
 #include "desktop/surface.h"
 #include "desktop/toast.h"
 #include "desktop/type.h"
+#include "grants/grant_edits.h"
+#include "platform/clock.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -43,6 +46,7 @@ WindowState first_state(const grants::GrantFile& file, const grants::Day& today)
 {
     WindowState state;
     state.today = today;
+    state.month = {today.year, today.month, 1};
     state.fiscalYear = fiscal_calendar(file.org).year_of(today);
     return state;
 }
@@ -52,6 +56,7 @@ bool looks_the_same(WindowState before, const WindowState& after)
 {
     before.sheet = after.sheet;
     before.request = after.request;
+    before.confirmDelete = after.confirmDelete;
     before.toast = after.toast;
     before.alert = after.alert;
     return before == after;
@@ -147,6 +152,7 @@ void MainWindow::show_condition()
     setWindowModified(document_->document().is_modified());
     update_commands();
     tool_bar_->update_buttons();
+    pages_->today().set_actions_offered(document_->disk().is_writable());
     notice_->show_notice(notice_for(*document_));
 }
 
@@ -158,6 +164,7 @@ CommandState MainWindow::command_state() const
     state.isWritable = document_->disk().is_writable();
     state.isNamed = document_->disk().is_named();
     state.isModified = document.is_modified();
+    state.showsGrant = model_.state().selection == SidebarItem::grant && model_.state().shownGrant;
     state.canRevert = desk_->can_revert();
     state.canUndo = document.undo_stack().canUndo();
     state.canRedo = document.undo_stack().canRedo();
@@ -180,6 +187,7 @@ void MainWindow::connect_pages()
         [this](const grants::Day& today) { model_.edit([&](WindowState& state) { state.today = today; }); });
     connect(&model_, &WindowModel::changed, this, &MainWindow::take_state);
     connect(sidebar_, &Sidebar::chosen, this, &MainWindow::show_page);
+    connect(&pages_->today(), &TodayPage::action_requested, this, &MainWindow::do_agenda_action);
     new PaneKeys(*this,
         {{tool_bar_, [this] { return tool_bar_->first_button(); }},
             {sidebar_, [this] { return sidebar_->focusProxy(); }},
@@ -218,6 +226,8 @@ void MainWindow::take_state(const WindowState& before, const WindowState& after)
     }
     if (before.sheet != after.sheet && after.sheet)
         open_sheet(*after.sheet);
+    if (before.confirmDelete != after.confirmDelete && after.confirmDelete)
+        confirm_delete(*after.confirmDelete);
     if (before.alert != after.alert && after.alert)
         show_alert(*after.alert);
     if (before.toast != after.toast && after.toast)
@@ -259,7 +269,43 @@ void MainWindow::perform(const WindowRequest& request)
     else if (const auto* showing = std::get_if<request::Show>(&request))
         show_page(showing->item);
     else
+        perform(std::get<request::Plain>(request));
+}
+
+void MainWindow::perform(request::Plain request)
+{
+    if (request == request::Plain::importMarrowind)
         import_board();
+    else if (request == request::Plain::deleteGrant)
+        model_.edit([](WindowState& state) { state.confirmDelete = state.shownGrant; });
+}
+
+/// Removing is one step; until the answer nothing has changed.
+void MainWindow::confirm_delete(const Uuid& grant)
+{
+    const auto answered = [this] { model_.edit([](WindowState& state) { state.confirmDelete.reset(); }); };
+    desktop::choose({QStringLiteral("Delete this grant?"),
+                        QStringLiteral("Its deadlines, reports, payments and attached files go with it. Edit › Undo "
+                                       "brings it back."),
+                        {}},
+        {QStringLiteral("trash"), desktop::IconTile::Tone::danger,
+            {{QStringLiteral("Delete Grant"), desktop::ButtonKind::destructive,
+                [this, grant, answered] {
+                    answered();
+                    delete_grant(grant);
+                }}}},
+        this, answered);
+}
+
+void MainWindow::delete_grant(const Uuid& grant)
+{
+    document_->document().edit(
+        QStringLiteral("Delete Grant"), grants::without_grant(document_->document().package(), grant));
+    model_.edit([](WindowState& state) {
+        state.shownGrant.reset();
+        if (state.selection == SidebarItem::grant)
+            state.selection = SidebarItem::grants;
+    });
 }
 
 /// A sheet that cannot be opened twice is told from the next one like it by being taken off the state at once.
@@ -268,7 +314,7 @@ void MainWindow::open_sheet(const WindowSheet& sheet)
     model_.edit([](WindowState& state) { state.sheet.reset(); });
     if (const auto* exporting = std::get_if<sheet::Export>(&sheet))
         export_file(exporting->kind);
-    else
+    else if (std::get<sheet::Plain>(sheet) == sheet::Plain::welcome)
         welcome();
 }
 
@@ -304,6 +350,14 @@ void MainWindow::edit(const QString& label, grants::GrantFile next, const QStrin
     document_->document().edit(label, std::move(next));
     if (!toast.isEmpty())
         model_.tell(toast.toStdString());
+}
+
+void MainWindow::do_agenda_action(const QString& item)
+{
+    const auto edit =
+        agenda_edit(document_->document().file(), item.toStdString(), model_.state().today, platform::now());
+    if (edit)
+        this->edit(QString::fromStdString(edit->label), edit->next, QString::fromStdString(edit->toast));
 }
 
 void MainWindow::export_file(ExportKind kind)

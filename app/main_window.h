@@ -71,11 +71,15 @@ private:
     void show_condition();
     void take_state(const WindowState& before, const WindowState& after);
     void perform(const WindowRequest& request);
+    void perform(request::Plain request);
+    void confirm_delete(const Uuid& grant);
+    void delete_grant(const Uuid& grant);
     void open_sheet(const WindowSheet& sheet);
     void show_alert(const AlertItem& item);
     void show_toast(const Toast& toast);
     void show_state();
     void show_page(SidebarItem page);
+    void do_agenda_action(const QString& item);
     void export_file(ExportKind kind);
     void import_board();
     void arrange();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/grant_tab.h"
 #include "app/sidebar_item.h"
 #include "app/window_messages.h"
 #include "app/window_request.h"
@@ -19,13 +20,18 @@ namespace quillfern::app {
 /// What one document window shows, apart from the document itself: a plain value.
 struct WindowState {
     SidebarItem selection = SidebarItem::today;
+    GrantTab grantTab = GrantTab::overview;
     std::optional<WindowSheet> sheet;
     std::optional<WindowRequest> request; ///< lives between the command that sets it and the window that takes it
     std::string search; ///< as typed in the tool bar
     std::int64_t fiscalYear = 0; ///< named by the year in which it ends
+    grants::Day month; ///< the first day of the month that the calendar page shows
+    std::optional<grants::Day> selectedDay; ///< picked on the calendar page; absent: the whole month is shown
+    std::optional<Uuid> confirmDelete; ///< the grant that is removed once the user says so
     std::optional<Toast> toast;
     std::optional<AlertItem> alert;
     std::optional<Uuid> selectedFunder;
+    std::optional<Uuid> shownGrant; ///< that `selection` = grant shows
     grants::Day today; ///< the date that everything in the window is told from
     std::optional<grants::Stage> grantsStage; ///< the stage that All Grants is filtered by
     std::optional<grants::Stage> pipelineStage; ///< the stage that Pipeline lists; absent: all open requests

@@ -8,6 +8,9 @@
 /// What a menu command asks of the document window that has the keyboard. A command never edits a document itself: it
 /// leaves its request in the window's state, and the window takes it from there, performs it and clears it at once, so
 /// that the same command given twice acts twice.
+///
+/// A request that needs a grant is about the grant that is shown. Commands whose page is still to come are disabled, so
+/// their requests never arrive.
 namespace quillfern::app {
 
 namespace request {
@@ -25,13 +28,21 @@ struct Show {
     friend bool operator==(const Show&, const Show&) = default;
 };
 
-/// Asks for a board file and imports its board.
-struct ImportMarrowind {
-    friend bool operator==(const ImportMarrowind&, const ImportMarrowind&) = default;
+/// Those that say everything by their name.
+enum class Plain {
+    newGrant,
+    importCSV,
+    printBoard,
+    addToCalendar,
+    generateReports,
+    addAttachment,
+    deleteGrant, ///< asks first: see WindowState::confirmDelete
+    importMarrowind,
+    askBoard,
 };
 
 } // namespace request
 
-using WindowRequest = std::variant<request::Export, request::Show, request::ImportMarrowind>;
+using WindowRequest = std::variant<request::Export, request::Show, request::Plain>;
 
 } // namespace quillfern::app

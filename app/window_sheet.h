@@ -14,13 +14,11 @@ struct Export {
     friend bool operator==(const Export&, const Export&) = default;
 };
 
-struct Welcome {
-    friend bool operator==(const Welcome&, const Welcome&) = default;
-};
+enum class Plain { funder, splitPayments, milestone, person, importCSV, welcome };
 
 } // namespace sheet
 
 /// A sheet of a document window; there is at most one at a time.
-using WindowSheet = std::variant<sheet::Export, sheet::Welcome>;
+using WindowSheet = std::variant<sheet::Export, sheet::Plain>;
 
 } // namespace quillfern::app

@@ -354,6 +354,32 @@ TEST_F(DocumentLifeTest, WhatAnotherProgramHasOpenCanBeReadButNotChanged)
     EXPECT_EQ(name_on_disk(path_), "Mine now");
 }
 
+TEST_F(DocumentLifeTest, DeletingAGrantAsksFirstAndUndoBringsEverythingBack)
+{
+    program_.open_sample();
+    MainWindow& window = *program_.windows().back();
+    const QuillfernDocument before = window.document().document().value();
+    const Uuid grant = before.package.file.grants.front()->id;
+    const auto ask = [&] {
+        window.model().edit([&](WindowState& state) {
+            state.selection = SidebarItem::grant;
+            state.shownGrant = grant;
+        });
+        window.ask(request::Plain::deleteGrant);
+        EXPECT_EQ(alert_title(), "Delete this grant?");
+    };
+    ask();
+    answer("Cancel");
+    EXPECT_FALSE(window.model().state().confirmDelete);
+    EXPECT_EQ(window.document().document().value(), before);
+    ask();
+    answer("Delete Grant");
+    EXPECT_EQ(window.document().document().file().grants.size(), before.package.file.grants.size() - 1);
+    EXPECT_NE(window.model().state().selection, SidebarItem::grant);
+    give(window, "undo");
+    EXPECT_EQ(window.document().document().value(), before);
+}
+
 TEST_F(DocumentLifeTest, ACommandGivenTwiceActsTwice)
 {
     MainWindow& window = open_pantry();

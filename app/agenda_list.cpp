@@ -125,10 +125,20 @@ bool AgendaList::edit(const QModelIndex&, EditTrigger, QEvent*)
 
 void AgendaList::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Space || !button_)
-        return QListView::keyPressEvent(event);
+    if (event->key() != Qt::Key_Space || !button_) {
+        QListView::keyPressEvent(event);
+        if (event->key() == Qt::Key_Home || event->key() == Qt::Key_Up)
+            choose_current(); // the first row has the keyboard when the page opens, and going there is no move
+        return;
+    }
     if (!event->isAutoRepeat()) // a key held down must not go through the rows that move up
         request_action();
+}
+
+void AgendaList::choose_current()
+{
+    if (currentIndex().isValid() && !chosen().isValid())
+        selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
 }
 
 void AgendaList::take_height()

@@ -42,6 +42,7 @@ private:
     void take_height();
     QModelIndex row_a_page_away(int direction) const;
     QModelIndex chosen() const;
+    void choose_current();
     QStringList ids_by_nearness() const;
     void take_button_away();
     void place_button();

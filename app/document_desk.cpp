@@ -227,12 +227,13 @@ void DocumentDesk::take_saved(const platform::SaveOutcome& outcome, OpenDocument
     decide_close(!document_.document().is_modified());
 }
 
+/// Once: what cannot be put away now is met again at every save, and some of them nobody has asked for.
 void DocumentDesk::explain(const platform::SaveOutcome& outcome)
 {
     const QStringList sentences = outcome_sentences(outcome);
-    if (!sentences.isEmpty() && !closing_)
-        desktop::show_alert(
-            {QStringLiteral("“%1” is saved").arg(name()), sentences.join(QLatin1String("\n")), {}}, &window_);
+    if (sentences.isEmpty() || closing_ || sentences == std::exchange(explained_, sentences))
+        return;
+    desktop::show_alert({QStringLiteral("“%1” is saved").arg(name()), sentences.join(QLatin1Char('\n')), {}}, &window_);
 }
 
 void DocumentDesk::take_failure(const SaveFailure& failure, OpenDocument::Asked asked)

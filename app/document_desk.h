@@ -4,7 +4,7 @@
 #include "app/open_document.h"
 
 #include <QObject>
-#include <QPointer>
+#include <QStringList>
 
 #include <functional>
 
@@ -67,6 +67,7 @@ private:
     WindowModel& model_;
     Application& application_;
     QWidget& window_;
+    QStringList explained_; ///< what was said of the last save that found something
     bool closing_ = false; ///< a save that is running decides whether the window closes
 };
 

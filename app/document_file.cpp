@@ -21,6 +21,12 @@ std::string bytes_of(const QString& path)
     return QFile::encodeName(path).toStdString();
 }
 
+/// The document's real path: the user's may lead through links, and two windows must know that they mean one document.
+QString path_of(const platform::PackagePlace& place)
+{
+    return QFile::decodeName(QByteArray::fromStdString(place.tree->path()));
+}
+
 } // namespace
 
 DocumentFile::DocumentFile(platform::VersionsStore& versions, QObject* parent)
@@ -86,12 +92,12 @@ void DocumentFile::save_as(
             *place = result->place;
             return SaveReport{document, std::move(result->outcome)};
         },
-        [this, path, lock, place, done = std::move(done)](const SaveReport& report) {
+        [this, lock, place, done = std::move(done)](const SaveReport& report) {
             if (report.result) {
                 lock_ = lock;
                 lock_error_.reset();
                 place_ = *place;
-                path_ = path;
+                path_ = path_of(*place_);
                 Q_EMIT path_changed(path_);
             }
             done(report);
@@ -110,8 +116,8 @@ Result<quillfern::Done, SaveFailure> DocumentFile::move_to(const QuillfernDocume
     if (moved)
         place_ = *moved;
     lock_ = std::make_shared<DocumentLock>(*std::move(lock));
-    const QString from = std::exchange(path_, path);
-    versions_.follow(bytes_of(from), bytes_of(path));
+    const QString from = std::exchange(path_, path_of(*place_));
+    versions_.follow(bytes_of(from), bytes_of(path_));
     Q_EMIT path_changed(path_);
     return quillfern::Done{};
 }

@@ -2,6 +2,7 @@
 
 #include "app/save_words.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -40,6 +41,8 @@ QString lock_words(const platform::LockError& error, const QString& name)
     if (!error.held)
         return QStringLiteral("“%1” can’t be reserved for this window (%2: %3), so it can’t be changed here.")
             .arg(name, qt(error.path), system_words(error.systemError));
+    if (error.holder.process == QCoreApplication::applicationPid())
+        return QStringLiteral("“%1” is open in another window of Quillfern.").arg(name);
     if (error.holder.process == 0)
         return QStringLiteral("“%1” is open in another program. You can look at it here, but not change it.").arg(name);
     return QStringLiteral("“%1” is open in another program (process %2 on %3). You can look at it here, but not "

@@ -27,6 +27,7 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSplitter>
 
 #include <utility>
@@ -40,6 +41,7 @@ constexpr double sidebar_width = 247; ///< and the line beside it
 constexpr double least_sidebar_width = 200;
 constexpr double most_sidebar_width = 360;
 constexpr double strip_width = 60;
+const QSize room_for_a_frame(0, 40); ///< the desktop's title bar
 constexpr int window_offset = 28; ///< between the corners of two windows that open one after the other
 
 WindowState first_state(const grants::GrantFile& file, const grants::Day& today)
@@ -445,7 +447,7 @@ void MainWindow::restore_placement()
     if (placement.sidebarWidth > 0)
         sidebar_width_ = placement.sidebarWidth;
     if (!restoreGeometry(placement.geometry))
-        resize(scaled(1280), scaled(800));
+        resize(QSize(scaled(1280), scaled(800)).boundedTo(screen()->availableSize() - room_for_a_frame));
     if (!application().windows().isEmpty() && !isMaximized())
         move(application().windows().back()->pos() + QPoint(window_offset, window_offset));
 }

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QTimer>
 
 #include <algorithm>
 #include <optional>
@@ -128,8 +129,10 @@ void Application::choose_file(QWidget* asking)
 
 void Application::show_start()
 {
+    if (!preferences_.values().welcomeDone)
+        return new_document();
     if (!start_)
-        start_ = new StartWindow(*this);
+        start_ = new StartWindow(*this, &recent_);
     start_->show();
     Q_EMIT window_shown(start_);
 }
@@ -202,6 +205,9 @@ MainWindow& Application::show_document(std::unique_ptr<OpenDocument> document)
         start_->close();
     Q_EMIT window_shown(window);
     tell_notes(*window);
+    if (!preferences_.values().welcomeDone) // once the window stands
+        QTimer::singleShot(0, window,
+            [window] { window->model().edit([](WindowState& state) { state.sheet = sheet::Plain::welcome; }); });
     return *window;
 }
 

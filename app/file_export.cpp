@@ -66,13 +66,14 @@ void ask_where(
 
 } // namespace
 
-void start_export(const grants::GrantFile& file, ExportKind kind, QWidget* window, const Saved& saved)
+QDialog* start_export(const grants::GrantFile& file, ExportKind kind, QWidget* window, const Saved& saved)
 {
     auto* sheet = new ExportSheet(file, kind, window);
     QObject::connect(sheet, &ExportSheet::save_requested, sheet,
         [=, above = QPointer<QWidget>(window)](
             const ExportChoices& choices) { ask_where(file, choices, above, saved); });
     sheet->open();
+    return sheet;
 }
 
 } // namespace quillfern::app

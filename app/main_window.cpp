@@ -1,11 +1,9 @@
 #include "app/main_window.h"
 
-#include "app/agenda_edit.h"
 #include "app/application.h"
 #include "app/close_guard.h"
 #include "app/document_desk.h"
 #include "app/document_notice.h"
-#include "app/file_export.h"
 #include "app/fiscal_year_choice.h"
 #include "app/open_document.h"
 #include "app/page_stack.h"
@@ -14,14 +12,11 @@
 #include "app/today_page.h"
 #include "app/window_layout.h"
 #include "app/window_placement.h"
+#include "app/window_requests.h"
 #include "app/window_tool_bar.h"
-#include "desktop/alert.h"
 #include "desktop/menu_builder.h"
 #include "desktop/surface.h"
-#include "desktop/toast.h"
 #include "desktop/type.h"
-#include "grants/grant_edits.h"
-#include "platform/clock.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -80,7 +75,8 @@ MainWindow::MainWindow(Application& application, std::unique_ptr<OpenDocument> d
       model_(first_state(document_->document().file(), application.day_watch().today())),
       desk_(new DocumentDesk(*document_, model_, application, *this)), sidebar_width_(scaled(sidebar_width)),
       splitter_(new QSplitter(this)), tool_bar_(new WindowToolBar(menus(), this)), sidebar_(new Sidebar(this)),
-      notice_(new DocumentNotice(this)), pages_(new PageStack(model_, this))
+      notice_(new DocumentNotice(this)), pages_(new PageStack(model_, this)),
+      requests_(new WindowRequests(*document_, model_, application, *this, *pages_))
 {
     setObjectName(QStringLiteral("documentWindow"));
     lay_out();
@@ -188,8 +184,8 @@ void MainWindow::connect_pages()
     connect(&application().day_watch(), &DayWatch::day_changed, this,
         [this](const grants::Day& today) { model_.edit([&](WindowState& state) { state.today = today; }); });
     connect(&model_, &WindowModel::changed, this, &MainWindow::take_state);
-    connect(sidebar_, &Sidebar::chosen, this, &MainWindow::show_page);
-    connect(&pages_->today(), &TodayPage::action_requested, this, &MainWindow::do_agenda_action);
+    connect(sidebar_, &Sidebar::chosen, requests_, &WindowRequests::show_page);
+    connect(&pages_->today(), &TodayPage::action_requested, requests_, &WindowRequests::do_agenda_action);
     new PaneKeys(*this,
         {{tool_bar_, [this] { return tool_bar_->first_button(); }},
             {sidebar_, [this] { return sidebar_->focusProxy(); }},
@@ -221,19 +217,6 @@ void MainWindow::redraw()
 
 void MainWindow::take_state(const WindowState& before, const WindowState& after)
 {
-    if (after.request) {
-        const WindowRequest request = *after.request;
-        model_.edit([](WindowState& state) { state.request.reset(); });
-        return perform(request);
-    }
-    if (before.sheet != after.sheet && after.sheet)
-        open_sheet(*after.sheet);
-    if (before.confirmDelete != after.confirmDelete && after.confirmDelete)
-        confirm_delete(*after.confirmDelete);
-    if (before.alert != after.alert && after.alert)
-        show_alert(*after.alert);
-    if (before.toast != after.toast && after.toast)
-        show_toast(*after.toast);
     if (before.today != after.today)
         return redraw();
     if (looks_the_same(before, after))
@@ -255,69 +238,13 @@ void MainWindow::show_state()
 
 void MainWindow::find()
 {
-    show_page(SidebarItem::grants);
+    requests_->show_page(SidebarItem::grants);
     tool_bar_->focus_search();
 }
 
 void MainWindow::ask(const WindowRequest& request)
 {
     model_.ask(request);
-}
-
-void MainWindow::perform(const WindowRequest& request)
-{
-    if (const auto* exporting = std::get_if<request::Export>(&request))
-        model_.edit([&](WindowState& state) { state.sheet = sheet::Export{exporting->kind}; });
-    else if (const auto* showing = std::get_if<request::Show>(&request))
-        show_page(showing->item);
-    else
-        perform(std::get<request::Plain>(request));
-}
-
-void MainWindow::perform(request::Plain request)
-{
-    if (request == request::Plain::importMarrowind)
-        import_board();
-    else if (request == request::Plain::deleteGrant)
-        model_.edit([](WindowState& state) { state.confirmDelete = state.shownGrant; });
-}
-
-/// Removing is one step; until the answer nothing has changed.
-void MainWindow::confirm_delete(const Uuid& grant)
-{
-    const auto answered = [this] { model_.edit([](WindowState& state) { state.confirmDelete.reset(); }); };
-    desktop::choose({QStringLiteral("Delete this grant?"),
-                        QStringLiteral("Its deadlines, reports, payments and attached files go with it. Edit › Undo "
-                                       "brings it back."),
-                        {}},
-        {QStringLiteral("trash"), desktop::IconTile::Tone::danger,
-            {{QStringLiteral("Delete Grant"), desktop::ButtonKind::destructive,
-                [this, grant, answered] {
-                    answered();
-                    delete_grant(grant);
-                }}}},
-        this, answered);
-}
-
-void MainWindow::delete_grant(const Uuid& grant)
-{
-    document_->document().edit(
-        QStringLiteral("Delete Grant"), grants::without_grant(document_->document().package(), grant));
-    model_.edit([](WindowState& state) {
-        state.shownGrant.reset();
-        if (state.selection == SidebarItem::grant)
-            state.selection = SidebarItem::grants;
-    });
-}
-
-/// A sheet that cannot be opened twice is told from the next one like it by being taken off the state at once.
-void MainWindow::open_sheet(const WindowSheet& sheet)
-{
-    model_.edit([](WindowState& state) { state.sheet.reset(); });
-    if (const auto* exporting = std::get_if<sheet::Export>(&sheet))
-        export_file(exporting->kind);
-    else if (std::get<sheet::Plain>(sheet) == sheet::Plain::welcome)
-        welcome();
 }
 
 void MainWindow::save()
@@ -343,60 +270,6 @@ void MainWindow::move_to()
 void MainWindow::revert()
 {
     desk_->revert();
-}
-
-void MainWindow::edit(const QString& label, grants::GrantFile next, const QString& toast)
-{
-    if (!document_->disk().is_writable())
-        return model_.tell("This window shows the file, but can’t change it.");
-    document_->document().edit(label, std::move(next));
-    if (!toast.isEmpty())
-        model_.tell(toast.toStdString());
-}
-
-void MainWindow::do_agenda_action(const QString& item)
-{
-    const auto edit =
-        agenda_edit(document_->document().file(), item.toStdString(), model_.state().today, platform::now());
-    if (edit)
-        this->edit(QString::fromStdString(edit->label), edit->next, QString::fromStdString(edit->toast));
-}
-
-void MainWindow::export_file(ExportKind kind)
-{
-    start_export(document_->document().file(), kind, this,
-        [this](const QString& name) { model_.tell("Saved “" + name.toStdString() + "”."); });
-}
-
-void MainWindow::import_board() { }
-
-void MainWindow::welcome() { }
-
-void MainWindow::show_alert(const AlertItem& item)
-{
-    desktop::show_alert(
-        {QString::fromStdString(item.title), QString::fromStdString(item.message), {}}, this, [this, id = item.id] {
-            model_.edit([id](WindowState& state) {
-                if (state.alert && state.alert->id == id)
-                    state.alert.reset();
-            });
-        });
-}
-
-void MainWindow::show_toast(const Toast& toast)
-{
-    if (!toast_) {
-        toast_ = new desktop::Toast(pages_);
-        connect(toast_, &desktop::Toast::gone, this,
-            [this] { model_.edit([](WindowState& state) { state.toast.reset(); }); });
-    }
-    toast_->show_message(QString::fromStdString(toast.text));
-}
-
-void MainWindow::show_page(SidebarItem page)
-{
-    if (destination(page).built)
-        model_.edit([page](WindowState& state) { state.selection = page; });
 }
 
 void MainWindow::toggle_sidebar()

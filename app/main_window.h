@@ -2,7 +2,6 @@
 
 #include "app/app_window.h"
 #include "app/window_model.h"
-#include "grants/grant_file.h"
 
 #include <memory>
 #include <optional>
@@ -20,6 +19,7 @@ class DocumentNotice;
 class OpenDocument;
 class PageStack;
 class Sidebar;
+class WindowRequests;
 class WindowToolBar;
 
 /// The window of one document: tool bar, sidebar, and the page that the sidebar has chosen.
@@ -32,6 +32,7 @@ public:
     OpenDocument& document() { return *document_; }
     const OpenDocument& document() const { return *document_; }
     WindowModel& model() { return model_; }
+    WindowRequests& requests() { return *requests_; }
     QUndoStack* undo_manager() override;
 
     /// What the Window menu calls it.
@@ -45,12 +46,6 @@ public:
     void revert() override;
     void find() override;
     void toggle_sidebar() override;
-
-    /// One undo step of the document, and a toast when there is something to say.
-    void edit(const QString& label, grants::GrantFile next, const QString& toast = {});
-
-    /// Shows the welcome sheet.
-    void welcome();
 
 Q_SIGNALS:
     void stays_open(); ///< the user was asked whether to close it, and does not want to
@@ -70,18 +65,7 @@ private:
     void redraw();
     void show_condition();
     void take_state(const WindowState& before, const WindowState& after);
-    void perform(const WindowRequest& request);
-    void perform(request::Plain request);
-    void confirm_delete(const Uuid& grant);
-    void delete_grant(const Uuid& grant);
-    void open_sheet(const WindowSheet& sheet);
-    void show_alert(const AlertItem& item);
-    void show_toast(const Toast& toast);
     void show_state();
-    void show_page(SidebarItem page);
-    void do_agenda_action(const QString& item);
-    void export_file(ExportKind kind);
-    void import_board();
     void arrange();
     void restore_placement();
 
@@ -96,7 +80,7 @@ private:
     Sidebar* sidebar_;
     DocumentNotice* notice_;
     PageStack* pages_;
-    desktop::Toast* toast_ = nullptr;
+    WindowRequests* requests_;
 };
 
 } // namespace quillfern::app

@@ -1,6 +1,7 @@
 #include "app/document_desk.h"
 #include "app/document_notice.h"
 #include "app/open_document.h"
+#include "app/window_requests.h"
 #include "desktop/alert.h"
 #include "grants/org_package.h"
 #include "window_fixture.h"
@@ -50,7 +51,7 @@ protected:
     {
         grants::GrantFile next = window.document().document().file();
         next.org.name = name;
-        window.edit(QStringLiteral("Rename"), next);
+        window.requests().edit(QStringLiteral("Rename"), next);
     }
 
     static void give(MainWindow& window, const char* command)

@@ -2,8 +2,10 @@
 
 #include "desktop/last_folder.h"
 
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace quillfern::app {
 
@@ -17,6 +19,15 @@ BoardOpenDialog::BoardOpenDialog(QWidget* parent)
     setLabelText(QFileDialog::Accept, QStringLiteral("Import"));
     setLabelText(QFileDialog::FileType, QStringLiteral("Shown:"));
     setNameFilter(QStringLiteral("Marrowind boards (*.marrowind Board.json)"));
+    // The toolkit takes a package for a folder, which has no place in the name field and is opened, not imported.
+    connect(this, &QFileDialog::currentChanged, this, [this](const QString& path) {
+        if (desktop::is_package(path, suffix()))
+            name_field()->setText(QFileInfo(path).fileName());
+    });
+    connect(name_field(), &QLineEdit::textChanged, this, [this] {
+        if (desktop::is_package(named_path(), suffix()))
+            findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->setText(QStringLiteral("Import"));
+    });
 }
 
 void BoardOpenDialog::accept()

@@ -8,7 +8,6 @@
 #include "desktop/alert.h"
 #include "desktop/package_dialog.h"
 #include "grants/package_messages.h"
-#include "platform/sha256.h"
 
 #include <QApplication>
 #include <QFile>
@@ -96,26 +95,29 @@ void Application::open_copy(const OpenDocument& original)
 void Application::open_recovered(grants::FoundRecovery found, QWidget* asking)
 {
     const QString path = QFile::decodeName(QByteArray::fromStdString(found.info.path));
-    auto opened = path.isEmpty() || window_of(path) ? std::optional<grants::OpenedPackage>() : read_quietly(path);
-    auto recovered = found.slot.read(opened ? &opened->package : nullptr);
+    MainWindow* window = path.isEmpty() ? nullptr : window_of(path);
+    auto document = path.isEmpty() || window ? nullptr : read_quietly(path);
+    OpenDocument* present = window ? &window->document() : document.get();
+    const auto* saved = present && present->document().saved() ? &present->document().saved()->package : nullptr;
+    auto recovered = found.slot.read(saved);
     if (!recovered) {
         desktop::show_alert({QStringLiteral("“%1” couldn’t be recovered").arg(qt(found.info.title)),
                                 QStringLiteral("What was kept of it stays where it is."), qt(recovered.error())},
             asking);
         return;
     }
-    const bool continues = opened && platform::hex(opened->place->fingerprint.mainHash) == found.info.base;
-    auto document = continues
-        ? std::make_unique<OpenDocument>(*std::move(opened), path, storage_)
-        : std::make_unique<OpenDocument>(QuillfernDocument{std::move(recovered->package)}, storage_);
-    document->recovery().adopt(std::move(found.slot));
+    const bool continues = saved && !present->document().is_modified() && present->disk().is_writable()
+        && (present->disk().base() == found.info.base || recovered->package == *saved);
     if (continues) {
-        document->document().edit(QStringLiteral("Recover Changes"), std::move(recovered->package));
-        document->hold_back();
+        present->take_recovered(std::move(found.slot), std::move(*recovered));
     } else {
-        document->document().set_unsaved();
+        document = std::make_unique<OpenDocument>(duplicate_of({std::move(recovered->package)}), storage_);
+        document->take_recovered(std::move(found.slot), {document->document().package(), recovered->notes});
     }
-    show_document(std::move(document));
+    if (document)
+        show_document(std::move(document));
+    else
+        window->come_forward();
 }
 
 void Application::choose_file(QWidget* asking)
@@ -145,11 +147,11 @@ void Application::show_settings()
     settings_window_->come_forward();
 }
 
-/// What the disk holds, or nothing when it cannot be read: then what was kept stands alone.
-std::optional<grants::OpenedPackage> Application::read_quietly(const QString& path)
+/// The document at the path, or nothing when it cannot be read: then what was kept stands alone.
+std::unique_ptr<OpenDocument> Application::read_quietly(const QString& path)
 {
     auto opened = source_.read(path);
-    return opened ? std::optional(*std::move(opened)) : std::nullopt;
+    return opened ? std::make_unique<OpenDocument>(*std::move(opened), path, storage_) : nullptr;
 }
 
 void Application::quit()

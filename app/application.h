@@ -84,7 +84,7 @@ private:
     MainWindow* window_of(const QString& path) const;
     MainWindow& show_document(std::unique_ptr<OpenDocument> document);
     void refuse(const grants::PackageError& error, const QString& path, QWidget* asking);
-    std::optional<grants::OpenedPackage> read_quietly(const QString& path);
+    std::unique_ptr<OpenDocument> read_quietly(const QString& path);
     void close_next();
     void save_all();
 

@@ -36,13 +36,20 @@ DocumentFile::~DocumentFile() = default;
 
 void DocumentFile::settle(const QString& path, std::shared_ptr<platform::PackagePlace> place)
 {
-    place_ = std::move(place);
     path_ = path;
+    know(std::move(place));
     if (!lock_)
         try_lock();
     if (lock_)
         grants::clear_leftovers(*place_, *lock_, &versions_);
     Q_EMIT path_changed(path_);
+}
+
+void DocumentFile::know(std::shared_ptr<platform::PackagePlace> place)
+{
+    place_ = std::move(place);
+    base_ = platform::hex(place_->fingerprint.mainHash);
+    Q_EMIT base_changed();
 }
 
 bool DocumentFile::try_lock()
@@ -68,7 +75,10 @@ void DocumentFile::save(const QuillfernDocument& document, Done done)
                 return SaveReport{document, fail(SaveFailure{std::nullopt, result.error()})};
             return SaveReport{document, *std::move(result)};
         },
-        std::move(done));
+        [this, done = std::move(done)](const SaveReport& report) {
+            know(place_);
+            done(report);
+        });
 }
 
 void DocumentFile::save_as(
@@ -96,7 +106,7 @@ void DocumentFile::save_as(
             if (report.result) {
                 lock_ = lock;
                 lock_error_.reset();
-                place_ = *place;
+                know(*place);
                 path_ = path_of(*place_);
                 Q_EMIT path_changed(path_);
             }
@@ -110,14 +120,14 @@ Result<quillfern::Done, SaveFailure> DocumentFile::move_to(const QuillfernDocume
     auto lock = DocumentLock::acquire(bytes_of(path));
     if (!lock)
         return fail(SaveFailure{lock.error(), {}});
+    const std::string from = place_->tree->path();
     auto moved = grants::move_package(document.package, place_, bytes_of(path), *lock_, *lock, &versions_);
     if (!moved && moved.error().problem != platform::SaveProblem::notFlushed)
         return fail(SaveFailure{std::nullopt, moved.error()});
-    if (moved)
-        place_ = *moved;
+    versions_.follow(from, (moved ? *moved : place_)->tree->path());
     lock_ = std::make_shared<DocumentLock>(*std::move(lock));
-    const QString from = std::exchange(path_, path_of(*place_));
-    versions_.follow(bytes_of(from), bytes_of(path_));
+    know(moved ? *moved : place_);
+    path_ = path_of(*place_);
     Q_EMIT path_changed(path_);
     return quillfern::Done{};
 }
@@ -132,11 +142,6 @@ grants::RecoveryInfo DocumentFile::recovery_info(const grants::OrgPackage& packa
     return {bytes_of(path_), document_title(package, path_).toStdString(), base(), now};
 }
 
-std::string DocumentFile::base() const
-{
-    return place_ ? platform::hex(place_->fingerprint.mainHash) : std::string();
-}
-
 platform::PackageChange DocumentFile::look() const
 {
     if (!is_named() || is_busy())
@@ -148,8 +153,10 @@ ReadResult DocumentFile::read_again()
 {
     finish();
     auto opened = grants::read_package(bytes_of(path_), lock_.get(), &versions_);
-    if (opened)
-        place_ = opened->place;
+    if (!opened)
+        return opened;
+    grants::hand_over(*place_, *opened->place); // undo steps still read from it
+    know(opened->place);
     return opened;
 }
 

@@ -80,7 +80,7 @@ public:
     grants::RecoveryInfo recovery_info(const grants::OrgPackage& package, Instant now) const;
 
     /// SHA-256 of the records that the disk held when they were read or saved last, 64 digits; empty without a file.
-    std::string base() const;
+    const std::string& base() const { return base_; }
 
     /// Whether the disk still holds what was read or saved last. While a save is running nothing counts as changed.
     platform::PackageChange look() const;
@@ -90,13 +90,17 @@ public:
 
 Q_SIGNALS:
     void path_changed(const QString& path);
+    void base_changed(); ///< it was read or saved, or has moved: what is known of the disk is new
 
 private:
     SaveReport report(
         const QuillfernDocument& document, Result<platform::SaveOutcome, platform::SaveError> result) const;
 
+    void know(std::shared_ptr<platform::PackagePlace> place);
+
     platform::VersionsStore& versions_;
     QString path_;
+    std::string base_; ///< a copy: a save that is running changes the place
     std::shared_ptr<platform::PackagePlace> place_;
     std::shared_ptr<platform::DocumentLock> lock_;
     std::optional<platform::LockError> lock_error_;

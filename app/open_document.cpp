@@ -91,9 +91,17 @@ void OpenDocument::take_failure(const SaveFailure& failure, Asked asked)
     Q_EMIT save_failed(failure, asked);
 }
 
-void OpenDocument::hold_back()
+void OpenDocument::take_recovered(grants::RecoverySlot slot, grants::RecoveredDocument recovered)
 {
-    held_back_ = true;
+    recovery_.adopt(std::move(slot));
+    notes_.insert(notes_.end(), recovered.notes.begin(), recovered.notes.end());
+    if (disk_.is_named())
+        document_.edit(QStringLiteral("Recover Changes"), std::move(recovered.package));
+    else
+        document_.set_unsaved();
+    held_back_ = document_.is_modified();
+    if (!held_back_)
+        recovery_.discard(); // it was saved after all
     Q_EMIT condition_changed();
 }
 

@@ -48,8 +48,9 @@ public:
     /// user has not just been given back what a crash had left.
     bool saves_itself() const;
 
-    /// Saves nothing by itself until the next save that the user asks for.
-    void hold_back();
+    /// What a crash had left takes this value's place, as a step that can be undone; in a new document it is what there
+    /// is. Nothing is saved until the user asks for it.
+    void take_recovered(grants::RecoverySlot slot, grants::RecoveredDocument recovered);
 
     void save(Asked asked);
     void save_as(const QString& path, platform::Existing existing);

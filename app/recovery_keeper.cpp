@@ -21,12 +21,14 @@ RecoveryKeeper::RecoveryKeeper(Document& document, DocumentFile& disk, const Sto
     connect(&latest_, &QTimer::timeout, this, &RecoveryKeeper::write);
     connect(&document_, &Document::changed, this, &RecoveryKeeper::take_change);
     connect(&document_, &Document::modified_changed, this, &RecoveryKeeper::take_modified);
+    connect(&disk_, &DocumentFile::base_changed, this, &RecoveryKeeper::take_change);
 }
 
 RecoveryKeeper::~RecoveryKeeper() = default;
 
 void RecoveryKeeper::adopt(grants::RecoverySlot slot)
 {
+    discard();
     slot_ = std::move(slot);
 }
 
@@ -49,10 +51,11 @@ void RecoveryKeeper::take_modified(bool modified)
 
 void RecoveryKeeper::write()
 {
-    if (writing_.running())
-        return latest_.start(); // and again, once that is done
     pause_.stop();
     latest_.stop();
+    again_ = writing_.running();
+    if (again_)
+        return;
     if (!document_.is_modified())
         return;
     writing_.start(
@@ -64,6 +67,7 @@ void RecoveryKeeper::write()
 
 void RecoveryKeeper::write_now()
 {
+    again_ = false;
     writing_.finish();
     write();
     writing_.finish();
@@ -71,6 +75,7 @@ void RecoveryKeeper::write_now()
 
 void RecoveryKeeper::discard()
 {
+    again_ = false;
     writing_.finish();
     pause_.stop();
     latest_.stop();
@@ -80,6 +85,10 @@ void RecoveryKeeper::discard()
 
 void RecoveryKeeper::take(const Written& written)
 {
+    if (std::exchange(again_, false))
+        write();
+    else if (!written)
+        take_change(); // tried again soon
     set_problem(written ? QString()
                         : QStringLiteral("Changes can’t be kept safe against a crash (%1). Save them soon.")
                               .arg(QString::fromStdString(std::generic_category().message(written.error()))));

@@ -51,6 +51,7 @@ private:
     QTimer pause_;
     QTimer latest_;
     QString problem_;
+    bool again_ = false; ///< what is being written is out of date already
     Background<Written> writing_{*this};
 };
 

@@ -112,14 +112,13 @@ void RevertSheet::revert()
     }
     const platform::Version& version = versions_[static_cast<std::size_t>(row - (lists_saved_ ? 1 : 0))];
     auto opened = grants::read_package(version.path);
-    if (!opened) {
+    if (!opened || !store_.protect(opened->place->tree)) {
         desktop::show_alert({QStringLiteral("This version couldn’t be read."),
                                 QStringLiteral("Nothing was changed. Choose another one."),
-                                QString::fromStdString(opened.error().text)},
+                                opened ? QString() : QString::fromStdString(opened.error().text)},
             this);
         return;
     }
-    store_.protect(opened->place->tree);
     accept();
     Q_EMIT version_chosen(opened->package);
 }

@@ -107,6 +107,11 @@ platform::PackageChange compare_with_disk(const platform::PackagePlace& place)
     return platform::compare_with_disk(place, layout());
 }
 
+void hand_over(const platform::PackagePlace& before, const platform::PackagePlace& now)
+{
+    platform::hand_over(before, now, layout());
+}
+
 void clear_leftovers(
     const platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced)
 {
@@ -124,6 +129,11 @@ Result<std::shared_ptr<platform::PackagePlace>, platform::SaveError> move_packag
         return fail(moved.error());
     auto written =
         write_package_as(package, path, platform::Existing::refuse, platform::Ownership::document, new_lock, displaced);
+    if (!written && written.error().problem == platform::SaveProblem::notFlushed) {
+        auto refused = written.error();
+        refused.problem = platform::SaveProblem::failed; // it has not moved
+        return fail(refused);
+    }
     if (!written)
         return fail(written.error());
     // Only now: the document is whole at its new place. What the old tree holds was looked at before the move.

@@ -71,6 +71,10 @@ Result<platform::NewPackage, platform::SaveError> write_package_as(const OrgPack
 /// Whether the disk still holds what was read or saved last.
 platform::PackageChange compare_with_disk(const platform::PackagePlace& place);
 
+/// The document was read again: what is unchanged since `before` is read through `now` from here on, which the next
+/// saves keep up to date.
+void hand_over(const platform::PackagePlace& before, const platform::PackagePlace& now);
+
 /// For a document that was read without its lock: puts away what crashed saves have left beside it.
 void clear_leftovers(
     const platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced);

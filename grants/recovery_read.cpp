@@ -1,5 +1,4 @@
 #include "grants/grant_file_json.h"
-#include "grants/recovery_names.h"
 #include "grants/recovery_store.h"
 #include "platform/file_bytes.h"
 #include "platform/random_uuid.h"
@@ -32,12 +31,21 @@ std::string reason_of(const GrantFileError& error)
     return read ? read->text() : "It was written by a newer version.";
 }
 
+bool is_same_file(const Blob& a, const Blob& b)
+{
+    const platform::BlobSource left = a.source();
+    const platform::BlobSource right = b.source();
+    const auto* one = std::get_if<platform::StoredFile>(&left);
+    const auto* other = std::get_if<platform::StoredFile>(&right);
+    return one && other && platform::same_size_and_time(one->stamp, other->stamp);
+}
+
 } // namespace
 
 Result<std::string, int> RecoverySlot::read_file(const std::string& name, std::int64_t limit)
 {
     std::string text;
-    const platform::Descriptor file = platform::open_file(*calls_, AT_FDCWD, inside(name).c_str(), O_RDONLY);
+    const platform::Descriptor file = platform::open_file(*calls_, AT_FDCWD, folder_->inside(name).c_str(), O_RDONLY);
     if (!file)
         return fail(int{errno});
     if (const int error = platform::read_bytes(*calls_, file.get(), limit, text))
@@ -45,10 +53,15 @@ Result<std::string, int> RecoverySlot::read_file(const std::string& name, std::i
     return text;
 }
 
-std::optional<RecoveryNote> RecoverySlot::read_note()
+Result<RecoveryNote, int> RecoverySlot::read_note()
 {
-    const auto text = read_file(recovery::note_name, longest_note);
-    return text ? parse_recovery_note(*text) : std::nullopt;
+    const auto text = read_file(RecoveryFolder::note, longest_note);
+    if (!text)
+        return fail(text.error());
+    auto note = parse_recovery_note(*text);
+    if (!note)
+        return fail(EBADMSG);
+    return *std::move(note);
 }
 
 std::vector<FoundRecovery> RecoverySlot::find(const std::string& folder, platform::SystemCalls& calls)
@@ -57,12 +70,17 @@ std::vector<FoundRecovery> RecoverySlot::find(const std::string& folder, platfor
     std::error_code error;
     for (fs::directory_iterator each(folder, error), end; !error && each != end; each.increment(error)) {
         RecoverySlot slot(folder, calls);
-        slot.path_ = each->path();
-        slot.lock_ = platform::open_file(calls, AT_FDCWD, slot.inside(recovery::lock_name).c_str(), O_RDWR);
-        if (!slot.lock_ || calls.lock(slot.lock_.get()) != 0)
+        slot.folder_ = RecoveryFolder::take_over(calls, each->path());
+        if (!slot.folder_)
             continue;
-        if (auto note = slot.read_note())
-            found.push_back({std::move(note->info), std::move(slot)});
+        auto note = slot.read_note();
+        if (!note && note.error() == ENOENT)
+            slot.folder_->abandon_if_dead();
+        if (!note)
+            continue;
+        const RecoveryInfo info = note->info;
+        slot.note_ = *std::move(note);
+        found.push_back({info, std::move(slot)});
     }
     std::sort(found.begin(), found.end(),
         [](const FoundRecovery& a, const FoundRecovery& b) { return a.info.savedAt < b.info.savedAt; });
@@ -71,21 +89,21 @@ std::vector<FoundRecovery> RecoverySlot::find(const std::string& folder, platfor
 
 Result<RecoveredDocument, std::string> RecoverySlot::read(const OrgPackage* saved)
 {
-    const auto note = read_note();
+    auto note = read_note();
     if (!note)
-        return fail(inside(recovery::note_name) + " can’t be read.");
+        return fail(folder_->inside(RecoveryFolder::note) + ": " + std::generic_category().message(note.error()));
     auto text = read_file(note->records, longest_records);
     if (!text)
-        return fail(inside(note->records) + ": " + std::generic_category().message(text.error()));
+        return fail(folder_->inside(note->records) + ": " + std::generic_category().message(text.error()));
     auto read = read_grant_file(*std::move(text), {platform::random_uuid, note->info.savedAt});
     if (!read)
-        return fail(inside(note->records) + ": " + reason_of(read.error()));
+        return fail(folder_->inside(note->records) + ": " + reason_of(read.error()));
     RecoveredDocument document;
     document.package.file = std::move(read->file);
     document.notes = std::move(read->notes);
-    tree_ = std::make_shared<platform::TreeLocation>(path_);
     files_ = std::max(files_, number_of(note->records));
     read_blobs(*note, saved, document);
+    note_ = *std::move(note);
     return document;
 }
 
@@ -93,33 +111,38 @@ void RecoverySlot::read_blobs(const RecoveryNote& note, const OrgPackage* saved,
 {
     AttachmentBytes attachments;
     for (const auto& [name, file] : note.blobs) {
-        std::optional<Blob> blob;
-        if (!file.empty())
-            blob = blob_in(file);
-        else if (saved && saved->attachments->contains(name))
-            blob = saved->attachments->find(name)->second;
-        if (blob)
+        const auto own = saved ? saved->attachments->find(name) : AttachmentBytes::const_iterator();
+        const bool has_own = saved && own != saved->attachments->end();
+        if (const auto blob = read_blob(file, has_own ? &own->second : nullptr))
             attachments.emplace(name, *blob);
         else
             document.notes.push_back("The attached file “" + name + "” couldn’t be found.");
     }
     document.package.attachments = std::move(attachments);
-    if (note.logo && note.logo->empty())
-        document.package.logo = saved ? saved->logo : std::nullopt;
-    else if (note.logo)
-        document.package.logo = blob_in(*note.logo);
+    if (note.logo)
+        document.package.logo = read_blob(*note.logo, saved && saved->logo ? &*saved->logo : nullptr);
+}
+
+/// `own` is what the document's package has of that name, if anything: it is preferred when it is the same, since it
+/// outlives the snapshot.
+std::optional<Blob> RecoverySlot::read_blob(const std::string& file, const Blob* own)
+{
+    std::optional<Blob> blob = file.empty() ? std::nullopt : blob_in(file);
+    if (own && (file.empty() || (blob && is_same_file(*blob, *own))))
+        blob = *own;
+    if (blob && !file.empty())
+        blobs_.emplace_back(*blob, file);
+    return blob;
 }
 
 /// Absent when the file is not there.
 std::optional<Blob> RecoverySlot::blob_in(const std::string& name)
 {
     struct stat status = {};
-    if (calls_->status_at(AT_FDCWD, inside(name).c_str(), status) != 0 || !S_ISREG(status.st_mode))
+    if (calls_->status_at(AT_FDCWD, folder_->inside(name).c_str(), status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     files_ = std::max(files_, number_of(name));
-    Blob blob(platform::StoredFile{tree_, "", name, platform::stamp_of(status)});
-    blobs_.emplace_back(blob, name);
-    return blob;
+    return Blob(platform::StoredFile{folder_, "", name, platform::stamp_of(status)});
 }
 
 } // namespace quillfern::grants

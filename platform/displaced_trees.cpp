@@ -145,12 +145,13 @@ Result<Done, int> keep_as_conflict(
     for (int number = 1; number <= 1000; ++number) {
         const std::string name = stem + " (conflict, " + numbered(date, number) + ")" + ending;
         const std::string path = join_path(split.folder, name);
-        const int error = rename_to_free_name(calls, AT_FDCWD, tree->path(), AT_FDCWD, path);
+        const std::string from = tree->path();
+        const int error =
+            tree->move_to(path, [&] { return rename_to_free_name(calls, AT_FDCWD, from, AT_FDCWD, path); });
         if (error == EEXIST)
             continue;
         if (error)
             return fail(error);
-        tree->set_path(path);
         const Descriptor folder = open_folder(calls, split.folder);
         if (folder)
             retrying([&] { return calls.sync(folder.get()); }); // Under either name the tree is there.

@@ -21,12 +21,13 @@ public:
     virtual Result<Done, int> take(const std::string& document, const std::shared_ptr<TreeLocation>& tree) = 0;
 };
 
-/// Keeps every tree in one folder, each under a name that begins with the document's and the moment's; on another
-/// disk by copying it there. Deletes nothing.
+/// Keeps every tree in one folder, each under a name that begins with the document's and the moment's. A tree from
+/// another disk is copied there; attachments that are in `like`, an earlier tree of the same document, too, are linked
+/// to it instead. Deletes nothing that it keeps.
 class TreesInFolder : public DisplacedTrees {
 public:
-    explicit TreesInFolder(std::string folder, SystemCalls& calls = system_calls())
-        : folder_(std::move(folder)), calls_(calls)
+    explicit TreesInFolder(std::string folder, SystemCalls& calls = system_calls(), std::string like = "")
+        : folder_(std::move(folder)), like_(std::move(like)), calls_(calls)
     {
     }
 
@@ -34,6 +35,7 @@ public:
 
 private:
     std::string folder_;
+    std::string like_;
     SystemCalls& calls_;
 };
 

@@ -10,20 +10,22 @@ namespace {
 
 constexpr std::size_t hex_digits = 8;
 
-/// File systems allow 255 bytes: of a longer document name the beginning stands, cut between characters, with a hash
-/// that tells it from others that begin so.
 std::string stem(std::string_view document)
 {
-    constexpr std::size_t longest = 255 - 2 - 1 - hex_digits - 1;
-    if (document.size() <= longest)
-        return std::string(document);
-    std::size_t end = longest - hex_digits - 1;
-    while (end > 0 && (static_cast<unsigned char>(document[end]) & 0xC0) == 0x80)
-        --end;
-    return std::string(document.substr(0, end)) + '-' + hex(sha256(document)).substr(0, hex_digits);
+    return shortened(document, longest_file_name - 2 - 1 - hex_digits - 1);
 }
 
 } // namespace
+
+std::string shortened(std::string_view name, std::size_t longest)
+{
+    if (name.size() <= longest)
+        return std::string(name);
+    std::size_t end = longest - hex_digits - 1;
+    while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80)
+        --end;
+    return std::string(name.substr(0, end)) + '-' + hex(sha256(name)).substr(0, hex_digits);
+}
 
 std::string fresh_sibling_name(std::string_view document)
 {

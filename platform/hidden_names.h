@@ -17,6 +17,12 @@ inline constexpr char unfinished_main_file[] = ".~main~";
 /// ".~NAME.bak~": the document itself, while a save that cannot exchange two folders in one step is replacing it.
 std::string backup_name(std::string_view document);
 
+inline constexpr std::size_t longest_file_name = 255; ///< bytes, on the file systems that people use
+
+/// A name of at most so many bytes: of a longer one the beginning, cut between characters, with a hash that tells it
+/// from others that begin so.
+std::string shortened(std::string_view name, std::size_t longest);
+
 /// A path's folder ("." when it has none) and last name; closing slashes do not count.
 struct SplitPath {
     std::string folder;

@@ -45,6 +45,14 @@ Result<Done, SaveError> flush_both(SystemCalls& calls, int to, int from, const s
     return Done{};
 }
 
+/// A network disk may have renamed although it reported an error.
+bool has_moved(SystemCalls& calls, const PackagePlace& place, int folder, const std::string& name)
+{
+    struct stat status = {};
+    return calls.status_at(folder, name.c_str(), status) == 0 && status.st_ino == place.fingerprint.listing.inode
+        && status.st_dev == place.fingerprint.listing.device;
+}
+
 } // namespace
 
 Result<Done, SaveError> move_package(PackagePlace& place, const std::string& path, const PackageLayout& layout,
@@ -61,12 +69,12 @@ Result<Done, SaveError> move_package(PackagePlace& place, const std::string& pat
     const auto new_parent = open_parent(calls, to.folder);
     if (!new_parent)
         return fail(new_parent.error());
-    const int error = rename_to_free_name(calls, old_parent->get(), from.name, new_parent->get(), to.name);
-    if (error == EEXIST || error == ENOTEMPTY)
-        return fail(SaveError{SaveProblem::exists, SaveStep::swap, target, error});
+    const int error = place.tree->move_to(target, [&] {
+        const int renamed = rename_to_free_name(calls, old_parent->get(), from.name, new_parent->get(), to.name);
+        return renamed && has_moved(calls, place, new_parent->get(), to.name) ? 0 : renamed;
+    });
     if (error != 0)
         return fail(save_error(SaveStep::swap, target, error));
-    place.tree->set_path(target);
     return flush_both(calls, new_parent->get(), old_parent->get(), to.folder);
 }
 

@@ -17,4 +17,8 @@ enum class PackageChange {
 PackageChange compare_with_disk(
     const PackagePlace& place, const PackageLayout& layout, SystemCalls& calls = system_calls());
 
+/// Blobs that read through `before` from files that are unchanged in `now`, the same package read again, read through
+/// `now` from here on.
+void hand_over(const PackagePlace& before, const PackagePlace& now, const PackageLayout& layout);
+
 } // namespace quillfern::platform

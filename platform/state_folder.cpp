@@ -1,5 +1,8 @@
 #include "platform/state_folder.h"
 
+#include "platform/file_bytes.h"
+#include "platform/hidden_names.h"
+
 #include <cerrno>
 #include <cstdlib>
 #include <sys/stat.h>
@@ -13,6 +16,13 @@ bool is_folder(const std::string& path)
 {
     struct stat status = {};
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// A power failure should not take a folder from under what is flushed inside it. Not every disk can promise that.
+void flush_parent(const std::string& path)
+{
+    if (const Descriptor parent = open_folder(system_calls(), split_path(path).folder))
+        retrying([&] { return system_calls().sync(parent.get()); });
 }
 
 } // namespace
@@ -34,7 +44,12 @@ int make_private_folder(const std::string& path)
     if (slash != std::string::npos && slash > 0)
         if (const int error = make_private_folder(path.substr(0, slash)))
             return error;
-    return mkdir(path.c_str(), for_the_user) == 0 || errno == EEXIST ? 0 : errno;
+    if (mkdir(path.c_str(), for_the_user) != 0 && errno != EEXIST)
+        return errno;
+    if (!is_folder(path)) // but when another program was faster, it is one
+        return ENOTDIR;
+    flush_parent(path);
+    return 0;
 }
 
 } // namespace quillfern::platform

@@ -22,6 +22,18 @@ public:
     std::string path() const;
     void set_path(std::string path);
 
+    /// Moves the tree on the disk: `move` does it and returns 0 or an errno. Readers that cannot find their file wait
+    /// until that is done, and look in the new place.
+    template <class Move>
+    int move_to(const std::string& path, Move&& move)
+    {
+        const std::lock_guard lock(mutex_);
+        const int error = move();
+        if (error == 0)
+            path_ = path;
+        return error;
+    }
+
     void remember(const std::shared_ptr<BlobNode>& node);
 
     /// The blobs that read from this tree and that somebody still holds.

@@ -23,8 +23,10 @@ public:
     {
         const bool wanted = state.inUse || is_recent() || is_first_of(state, day_length, rule_.days, days_)
             || is_first_of(state, week_length, rule_.weeks, weeks_);
-        const bool fits = count_ == 0 || state.inUse || bytes_ + state.bytes <= rule_.bytes;
-        if (!wanted || !fits)
+        if (!wanted)
+            return false;
+        fits_ = fits_ && bytes_ + state.bytes <= rule_.bytes; // an older one may share what a newer one held
+        if (!fits_ && count_ > 0 && !state.inUse)
             return false;
         ++count_;
         bytes_ += state.bytes;
@@ -47,6 +49,7 @@ private:
     const PruningRule& rule_;
     std::size_t count_ = 0;
     std::int64_t bytes_ = 0;
+    bool fits_ = true;
     std::set<std::int64_t> days_;
     std::set<std::int64_t> weeks_;
 };

@@ -10,7 +10,7 @@ namespace quillfern::platform {
 /// One kept state, as pruning sees it.
 struct KeptState {
     Instant savedAt;
-    std::int64_t bytes = 0; ///< on the disk, without what it shares with newer ones
+    std::int64_t bytes = 0; ///< on the disk, without what it shares with newer ones or with the document
     bool inUse = false; ///< somebody reads from it: it stays whatever else holds
 };
 

@@ -21,7 +21,7 @@ struct Version {
 };
 
 /// The earlier states of all documents. Each save puts the state that it displaces here, and pruning takes away what
-/// nobody goes back to.
+/// nobody goes back to. Documents are known by their real paths, however one gets there.
 ///
 ///     FOLDER/Pantry.quillfern-3f9a0c1b22d4e5f6/     a document, by its path
 ///         document                                  the path, for whoever looks for a lost file
@@ -42,15 +42,20 @@ public:
     /// document that was there before), the two become one.
     void follow(const std::string& from, const std::string& to);
 
-    /// A state is being read from here: it stays as long as somebody holds its blobs.
-    void protect(const std::shared_ptr<TreeLocation>& tree);
+    /// A state has been read from here: it stays as long as somebody holds its blobs. False when it has gone meanwhile.
+    bool protect(const std::shared_ptr<TreeLocation>& tree);
 
-    /// Takes away the states of this document that the rule does not keep.
+    /// Takes away the states of this document that the rule does not keep, and what crashes have left half copied or
+    /// half removed. For the holder of the document's lock.
     void prune(const std::string& document, Instant now, const PruningRule& rule = {});
 
 private:
     std::string folder_of(const std::string& document) const;
-    bool is_in_use(const std::string& path) const;
+    bool is_version(const std::string& path) const;
+    bool is_in_use(const std::string& path) const; ///< the mutex is held
+    void move_version(const std::string& from, const std::string& to);
+    void remove_dead(const std::string& folder);
+    void remove(const std::string& path);
 
     std::string folder_;
     std::string main_file_;

@@ -285,28 +285,6 @@ TEST_F(DirectorySave, The_previous_state_goes_to_its_keeper_with_everything_in_i
     EXPECT_EQ(get(path + "/Attachments/a"), "bytes of a");
 }
 
-TEST_F(DirectorySave, A_keeper_on_another_disk_gets_a_copy)
-{
-    class TwoDisks : public SystemCalls {
-    public:
-        int rename_at(int from, const char* name, int to, const char* as, unsigned flags) override
-        {
-            if (std::string_view(as).find("versions") != std::string_view::npos)
-                return errno = EXDEV, -1;
-            return SystemCalls::rename_at(from, name, to, as, flags);
-        }
-    } calls;
-    fs::create_directory(scratch / "versions");
-    TreesInFolder versions(scratch / "versions", calls);
-    const Blob dropped = read.contents.attachments.at("a");
-    read.contents.attachments.erase("a");
-    const auto saved = save(calls, &versions);
-    ASSERT_TRUE(saved.ok());
-    EXPECT_EQ(saved->displacedError, 0);
-    EXPECT_EQ(**dropped.read(), "bytes of a");
-    EXPECT_THAT(entries(scratch.path()), ElementsAre("Pantry.quillfern", "locks", "versions"));
-}
-
 TEST_F(DirectorySave, A_dropped_attachment_that_an_undo_step_holds_outlives_its_file)
 {
     const Blob dropped = read.contents.attachments.at("a");

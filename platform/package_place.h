@@ -8,6 +8,12 @@
 
 namespace quillfern::platform {
 
+/// A tree that a save has displaced and had to leave beside the document.
+struct KeptTree {
+    std::shared_ptr<TreeLocation> tree;
+    bool isOurs = false; ///< a previous state of ours for sure; else somebody else may have written it
+};
+
 /// Where one open document stands on the disk, and how it looked there when it was read or last saved by us.
 ///
 /// Held by whoever holds the document; reading makes it, saving brings it up to date. One thread at a time, but for
@@ -23,8 +29,8 @@ struct PackagePlace {
     /// writes every one afresh and links to none.
     bool trusted = true;
 
-    /// Displaced trees that such a save had to keep; the next good save disposes of them.
-    std::vector<std::shared_ptr<TreeLocation>> keptTrees = {};
+    /// The next good save disposes of them. Of those that nobody takes, the newest stays.
+    std::vector<KeptTree> keptTrees = {};
 };
 
 } // namespace quillfern::platform

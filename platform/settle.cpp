@@ -3,6 +3,7 @@
 #include "platform/file_bytes.h"
 #include "platform/hidden_names.h"
 
+#include <algorithm>
 #include <unordered_set>
 #include <utility>
 
@@ -17,15 +18,17 @@ public:
     }
 
     void settle(const Displaced& displaced);
-    void put_away(const std::shared_ptr<TreeLocation>& tree);
+    void settle_kept(const KeptTree& kept);
+    void thin_out();
 
 private:
-    void keep(const std::shared_ptr<TreeLocation>& tree, int error)
+    void keep(const std::shared_ptr<TreeLocation>& tree, int error, bool is_ours = false)
     {
         outcome_.displacedError = error;
-        place_.keptTrees.push_back(tree);
+        place_.keptTrees.push_back({tree, is_ours});
     }
 
+    void put_away(const std::shared_ptr<TreeLocation>& tree);
     void keep_conflict(const std::shared_ptr<TreeLocation>& tree);
     int carry_over_late(const Displaced& displaced, const PackageListing& now);
 
@@ -79,12 +82,32 @@ void Settling::put_away(const std::shared_ptr<TreeLocation>& tree)
 {
     if (!request_.displaced) {
         if (const int error = discard_tree(calls_, tree, document_, request_.layout))
-            keep(tree, error);
+            keep(tree, error, true);
         return;
     }
     if (const auto taken = request_.displaced->take(document_, tree); !taken)
-        return keep(tree, taken.error());
+        return keep(tree, taken.error(), true);
     outcome_.displaced = tree->path();
+}
+
+void Settling::settle_kept(const KeptTree& kept)
+{
+    if (kept.isOurs)
+        put_away(kept.tree);
+    else
+        keep_conflict(kept.tree);
+}
+
+/// A store that takes nothing must not fill the document's disk: of our previous states the newest stays.
+void Settling::thin_out()
+{
+    auto& kept = place_.keptTrees;
+    const auto is_ours = [](const KeptTree& each) { return each.isOurs; };
+    const auto newest = std::find_if(kept.rbegin(), kept.rend(), is_ours);
+    const auto tree = newest == kept.rend() ? nullptr : newest->tree;
+    std::erase_if(kept, [&](const KeptTree& each) {
+        return each.isOurs && each.tree != tree && discard_tree(calls_, each.tree, document_, request_.layout) == 0;
+    });
 }
 
 } // namespace
@@ -126,10 +149,11 @@ void settle(SystemCalls& calls, PackagePlace& place, const SaveRequest& request,
 {
     const auto kept_before = std::exchange(place.keptTrees, {});
     Settling settling(calls, place, request, outcome);
-    for (const auto& tree : kept_before)
-        settling.put_away(tree);
+    for (const KeptTree& kept : kept_before)
+        settling.settle_kept(kept);
     if (displaced.tree)
         settling.settle(displaced);
+    settling.thin_out();
 }
 
 } // namespace quillfern::platform

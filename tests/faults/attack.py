@@ -279,6 +279,31 @@ def full_disk(probe, way, mounted):
         print(f"{way}: {refused} saves refused for a full disk")
 
 
+def full_store(probe, mounted):
+    """The disk of the earlier versions is full, or their folder cannot be made: documents are saved all the same."""
+    store = os.path.join(mounted, "store")
+    ballast = os.path.join(mounted, "ballast")
+    with Document(probe) as document:
+        beside = 0
+        for room in range(0, 400, 24):
+            disk = os.statvfs(mounted)
+            with open(ballast, "wb") as file:
+                file.write(bytes(max(0, disk.f_bavail * disk.f_frsize - room * 1024)))
+            told = "BESIDE" in document.run("save", document.number + 1, "sound", store, must=True).stdout
+            document.check(document.number + 1)
+            if told != bool(document.debris()):
+                raise Broken(f"told: {told}, beside the document: {document.debris()}")
+            beside += told
+            os.remove(ballast)
+            document.save_soundly()
+            shutil.rmtree(store, ignore_errors=True)
+        document.run("save", document.number + 1, "sound", "/dev/null", must=True)
+        document.check(document.number + 1)
+        if beside in (0, 17) or not document.debris():
+            raise Broken(f"{beside} previous states did not fit")
+        print(f"full store: {beside} previous states stay beside the document")
+
+
 def attack_full_disk(probe):
     if "QUILLFERN_OWN_MOUNTS" not in os.environ:
         return in_own_mounts()
@@ -288,6 +313,7 @@ def attack_full_disk(probe):
             return "this machine does not allow mounting"
         full_disk(probe, "sound", mounted)
         full_disk(probe, "two-steps", mounted)
+        full_store(probe, mounted)
         expect_found_out(lambda: full_disk(probe, "in-place", mounted), "writing in place")
     finally:
         subprocess.run(["umount", mounted], check=False, capture_output=True)

@@ -4,6 +4,9 @@
 
 #include <atomic>
 #include <cerrno>
+#include <fcntl.h>
+#include <string>
+#include <string_view>
 
 namespace quillfern::faults {
 
@@ -66,6 +69,11 @@ public:
     {
         if (two_steps && flags != 0)
             return errno = EINVAL, -1;
+        const auto is_there = [&](std::string_view path) {
+            return !other_disk.empty() && path.starts_with(other_disk);
+        };
+        if (from_folder == AT_FDCWD && is_there(from) != is_there(to))
+            return errno = EXDEV, -1;
         if (renames_all_the_same) {
             const int result = SystemCalls::rename_at(from_folder, from, to_folder, to, flags);
             return fails() ? -1 : result;
@@ -85,6 +93,7 @@ public:
 
     bool no_links = false; ///< as on a FAT disk
     bool two_steps = false; ///< as on a disk that cannot exchange folders
+    std::string other_disk; ///< a folder that is one, by its path
     bool renames_all_the_same = false; ///< a failing rename has happened, as on network disks
 
 private:

@@ -1,9 +1,11 @@
+#include "platform/versions_store.h"
 #include "tests/faults/failing_calls.h"
 #include "tests/faults/versions.h"
 #include "tests/platform/scratch_folder.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <set>
 
 /// Fails each call of a save in turn, once and from then on, and looks at what is left each time.
 namespace quillfern::faults {
@@ -15,6 +17,7 @@ using Lasting = FailingCalls::Lasting;
 struct Disk {
     const char* name;
     bool keeper = false; ///< previous states are kept
+    bool other_disk = false; ///< but not on the document's disk
     bool no_links = false;
     bool two_steps = false;
     bool renames_all_the_same = false;
@@ -32,7 +35,6 @@ public:
     explicit Sweep(const Disk& disk) : disk_(disk)
     {
         std::filesystem::create_directories(scratch_ / "locks");
-        std::filesystem::create_directories(scratch_ / "kept");
         const PackageContents first = version(number_);
         lock_.emplace(std::move(*DocumentLock::acquire_in(scratch_ / "locks", path_)));
         EXPECT_TRUE(save_package_as(path_, request(first, nullptr), Existing::refuse, Ownership::copy, *lock_).ok());
@@ -49,6 +51,7 @@ private:
         return {.layout = layout, .contents = contents, .today = "2026-03-07", .displaced = keeper};
     }
 
+    std::string check_kept(const SaveOutcome* outcome) const;
     std::string recover(const PackageContents& contents, const std::vector<Blob>& dropped);
     std::string save_reopened();
     void reopen()
@@ -61,7 +64,7 @@ private:
     Disk disk_;
     ScratchFolder scratch_;
     std::string path_ = scratch_ / "Pantry.quillfern";
-    TreesInFolder kept_{scratch_ / "kept"};
+    VersionsStore kept_{scratch_ / "kept", layout.mainFile};
     std::optional<DocumentLock> lock_;
     PackageRead read_;
     int number_ = 1;
@@ -73,17 +76,23 @@ std::string Sweep::try_fault(const Fault& fault, bool& reached)
     calls.no_links = disk_.no_links;
     calls.two_steps = disk_.two_steps;
     calls.renames_all_the_same = disk_.renames_all_the_same;
-    TreesInFolder keeper(scratch_ / "kept", calls);
+    if (disk_.other_disk)
+        calls.other_disk = scratch_ / "kept";
+    VersionsStore keeper(scratch_ / "kept", layout.mainFile, calls);
     std::vector<Blob> dropped;
     for (const auto& [name, blob] : read_.contents.attachments)
         dropped.push_back(blob);
     const PackageContents contents = version(number_ + 1, &read_.contents);
     const auto saved = save_package(*read_.place, request(contents, disk_.keeper ? &keeper : nullptr), *lock_, calls);
+    if (disk_.keeper)
+        keeper.prune(path_, {}, {.recent = 3, .days = 0, .weeks = 0});
     reached = calls.reached();
 
     const Verdict found = judge(path_, &*lock_);
     if (found.number == 0)
         return found.fault;
+    if (const std::string wrong = check_kept(saved ? &*saved : nullptr); !wrong.empty())
+        return wrong;
     if (saved && found.number != number_ + 1)
         return "it says that it has saved and has not";
     if (!saved && saved.error().problem != SaveProblem::notFlushed && found.number != number_)
@@ -92,6 +101,25 @@ std::string Sweep::try_fault(const Fault& fault, bool& reached)
         && debris(path_) > 0 && !disk_.renames_all_the_same)
         return "something was left behind";
     return recover(contents, dropped);
+}
+
+/// Every state in the store is whole, and the one before this save is there or beside the document.
+std::string Sweep::check_kept(const SaveOutcome* outcome) const
+{
+    std::set<int> numbers;
+    for (const Version& version : kept_.versions_of(path_)) {
+        const Verdict kept = judge(version.path);
+        if (kept.number == 0)
+            return "a version in the store is not whole: " + kept.fault;
+        numbers.insert(kept.number);
+    }
+    if (!disk_.keeper || !outcome)
+        return "";
+    if (outcome->displacedError == 0 && outcome->conflict.empty() && !numbers.contains(number_))
+        return "the previous state is not in the store";
+    if (outcome->displacedError != 0 && debris(path_) == 0)
+        return "the previous state is neither in the store nor beside the document";
+    return "";
 }
 
 /// The disk is well again: the same document is saved once more.
@@ -136,7 +164,8 @@ std::string Sweep::try_in_place(const Fault& fault, bool& reached)
 
 const Disk disks[] = {
     {.name = "usual"},
-    {.name = "usual, previous states are kept", .keeper = true},
+    {.name = "previous states are kept", .keeper = true},
+    {.name = "previous states are kept on another disk", .keeper = true, .other_disk = true},
     {.name = "no hard links", .no_links = true},
     {.name = "no exchange of folders", .two_steps = true},
     {.name = "renames that fail have happened", .renames_all_the_same = true},

@@ -1,3 +1,4 @@
+#include "platform/versions_store.h"
 #include "tests/faults/versions.h"
 
 #include <cstdio>
@@ -9,7 +10,8 @@
 /// A small program that saves and reads numbered states of one document, to be killed, starved and traced.
 ///
 ///     saver_probe make  PATH NUMBER
-///     saver_probe save  PATH NUMBER [WAY]     saves over state NUMBER - 1, or over NUMBER itself
+///     saver_probe save  PATH NUMBER [WAY [STORE]]     saves over state NUMBER - 1, or over NUMBER itself; previous
+///                                             states go to the folder STORE
 ///     saver_probe loop  PATH NUMBER [WAY]     saves NUMBER, NUMBER + 1, ... without end
 ///     saver_probe check PATH                  prints the state's number
 ///     saver_probe watch PATH SECONDS          reads again and again
@@ -78,26 +80,29 @@ Result<Session, int> open_session(const std::string& path)
     return Session{std::move(*read), std::move(*lock)};
 }
 
-int save(Session& session, Way& way, int number)
+int save(Session& session, Way& way, int number, DisplacedTrees* store = nullptr)
 {
     if (way.in_place())
         return save_in_place(way, session.read.place->tree->path(), number) ? 0 : say("cannot write", 1);
     const PackageContents contents = version(number, &session.read.contents);
-    const auto saved = save_package(
-        *session.read.place, {.layout = layout, .contents = contents, .today = "2026-03-07"}, session.lock, way);
+    const auto saved = save_package(*session.read.place,
+        {.layout = layout, .contents = contents, .today = "2026-03-07", .displaced = store}, session.lock, way);
+    if (saved && saved->displacedError != 0)
+        say("PREVIOUS STATE BESIDE", 0);
     if (!saved)
         return say(strerror(saved.error().systemError), 1);
     session.read.contents = contents;
     return 0;
 }
 
-int save_once(const std::string& path, int number, Way& way)
+int save_once(const std::string& path, int number, Way& way, const std::string& folder)
 {
     auto session = open_session(path);
     if (!session)
         return session.error();
     say("OPENED", 0); // The harness counts system calls from here.
-    const int status = save(*session, way, number);
+    VersionsStore store(folder, layout.mainFile);
+    const int status = save(*session, way, number, folder.empty() ? nullptr : &store);
     return status == 0 ? say("SAVED", 0) : status;
 }
 
@@ -164,7 +169,7 @@ int run(int count, char** arguments)
     if (verb == "make")
         return make(path, number);
     if (verb == "save")
-        return save_once(path, number, way);
+        return save_once(path, number, way, count > 5 ? arguments[5] : "");
     if (verb == "loop")
         return save_without_end(path, number, way);
     if (verb == "check")

@@ -295,5 +295,41 @@ TEST_F(RecoveryStore, After_a_failing_call_the_previous_or_the_next_snapshot_is_
     }
 }
 
+TEST_F(RecoveryStore, A_full_disk_keeps_the_previous_snapshot_and_fills_no_further)
+{
+    class FullDisk : public SystemCalls {
+    public:
+        explicit FullDisk(std::size_t room) : room_(room) { }
+        ssize_t write(int file, const void* bytes, std::size_t count) override
+        {
+            if (room_ == 0)
+                return errno = ENOSPC, -1;
+            const ssize_t written = SystemCalls::write(file, bytes, std::min(count, room_));
+            room_ -= static_cast<std::size_t>(std::max<ssize_t>(written, 0));
+            return written;
+        }
+
+    private:
+        std::size_t room_;
+    };
+    OrgPackage package = package_named("First");
+    ASSERT_TRUE(slot.write(package, untitled).ok());
+    bool fits = false;
+    for (std::size_t room = 0; !fits; room += 50) {
+        slot = RecoverySlot(folder);
+        FullDisk disk(room);
+        auto found = RecoverySlot::find(folder, disk);
+        ASSERT_THAT(found, SizeIs(1));
+        ASSERT_TRUE(found[0].slot.read(nullptr).ok());
+        package.file.org.name = "Second";
+        attach(package, "two", Blob(std::string(100, '2')));
+        const auto written = found[0].slot.write(package, untitled);
+        fits = written.ok();
+        EXPECT_TRUE(fits || written.error() == ENOSPC);
+        EXPECT_THAT(snapshot_files(), SizeIs(fits ? 4 : 3)) << "nothing of the failed attempt stays";
+    }
+    EXPECT_EQ(crash()[0].slot.read(nullptr)->package.file.org.name, "Second");
+}
+
 } // namespace
 } // namespace quillfern::grants

@@ -1,5 +1,6 @@
-// editing_probe edit STATE (PACKAGE | -): edits a document, or a new one, until it is killed, and prints the number of
-// each edit as soon as it is made, with the time. editing_probe recover STATE: prints what the program would give back.
+// editing_probe edit STATE (PACKAGE | -) PACE: edits a document, or a new one, until it is killed, and prints the
+// number of each edit as soon as it is made, with the time. editing_probe recover STATE: prints what the program would
+// give back. PACE is `real`; `fast`; or one of the sabotaged ones, `never` and `late`.
 #include "app/application.h"
 #include "app/main_window.h"
 #include "app/open_document.h"
@@ -21,8 +22,19 @@ namespace {
 using namespace quillfern;
 using namespace quillfern::app;
 
-/// Twenty times faster than a user's, so that a hundred crashes fit into a test.
-constexpr Pace fast = {std::chrono::milliseconds(100), std::chrono::milliseconds(500), std::chrono::milliseconds(1500)};
+Pace pace_named(const std::string& name)
+{
+    using std::chrono::hours;
+    using std::chrono::milliseconds;
+    if (name == "real")
+        return {};
+    if (name == "never")
+        return {hours(1), hours(1), hours(1)};
+    if (name == "late")
+        return {milliseconds(2000), milliseconds(2000), milliseconds(6000)};
+    // Twenty times faster than a user's, so that many crashes fit into a test.
+    return {milliseconds(100), milliseconds(500), milliseconds(1500)};
+}
 
 long long milliseconds_now()
 {
@@ -92,7 +104,7 @@ int main(int argc, char** argv)
                 return grants::Day{2026, 9, 10};
             },
         .state_folder = state,
-        .pace = fast,
+        .pace = pace_named(argc > 4 ? argv[4] : "fast"),
         .settings_file = QString::fromStdString(state + "/settings.conf")});
     program.preferences().edit([](PreferenceValues& values) { values.welcomeDone = true; });
     if (argv[1] == std::string("recover")) {

@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""recovery_test.py PROBE [RUNS]: kills an editing program at random moments and looks at what the next start gives
-back: at most the edits of the longest wait may be lost, in untitled documents too, and the file on the disk is whole.
+"""recovery_test.py PROBE [CRASHES [real]]: kills an editing program at random moments and looks at what the next start
+gives back: at most the edits of the longest wait may be lost, in untitled documents too, and the file on the disk is
+whole. With fast snapshots unless they are to be at the real pace; then sabotaged ones must be found out, too.
 """
 import concurrent.futures
 import json
@@ -13,8 +14,11 @@ import sys
 import tempfile
 import time
 
-LONGEST_WAIT = 0.5  # seconds of edits; the probe's pace
+LONGEST_WAIT = {"real": 10}  # seconds of edits
+FAST_WAIT = 0.5
 SLACK = 0.7  # for a loaded machine: writing takes time, too
+LIFE = {"real": 45, "never": 5, "late": 5}  # at most, in seconds
+FAST_LIFE = 3
 STATE_VARIABLES = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR")
 
 
@@ -24,10 +28,10 @@ def environment(folder):
     return own
 
 
-def edit_and_kill(probe, folder, package, life):
+def edit_and_kill(probe, folder, package, pace, life):
     """The edits that were made, as (number, seconds), and when the program died."""
-    editor = subprocess.Popen([probe, "edit", str(folder / "state"), package], stdout=subprocess.PIPE, text=True,
-                              env=environment(folder))
+    editor = subprocess.Popen([probe, "edit", str(folder / "state"), package, pace], stdout=subprocess.PIPE,
+                              text=True, env=environment(folder))
     first = editor.stdout.readline()
     time.sleep(life)
     died = time.monotonic()
@@ -44,7 +48,8 @@ def recovered(probe, folder):
     return [line.split() for line in done.stdout.splitlines()]
 
 
-def one_crash(probe, number):
+def one_crash(probe, pace, number):
+    """Seconds of edits that are lost, and what is wrong."""
     chance = random.Random(number)
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
@@ -53,28 +58,42 @@ def one_crash(probe, number):
         if not untitled:
             package.mkdir()
             (package / "Quillfern.json").write_text('{"formatVersion": 2, "org": {"name": "0"}}')
-        edits, died = edit_and_kill(probe, folder, "-" if untitled else str(package), chance.uniform(0, 3))
+        life = chance.uniform(0, LIFE.get(pace, FAST_LIFE))
+        edits, died = edit_and_kill(probe, folder, "-" if untitled else str(package), pace, life)
         on_disk = 0 if untitled else int(json.loads((package / "Quillfern.json").read_text())["org"]["name"])
         found = recovered(probe, folder)
         again = recovered(probe, folder)
         kept = max([on_disk] + [int(line[0]) for line in found])
         lost = [when for edit, when in edits if edit > kept]
+        loss = died - lost[0] if lost else 0
         problems = []
-        if lost and died - lost[0] > LONGEST_WAIT + SLACK:
-            problems.append(f"{died - lost[0]:.2f} s of edits are lost")
+        if loss > LONGEST_WAIT.get(pace, FAST_WAIT) + SLACK:
+            problems.append(f"{loss:.2f} s of edits are lost")
         if any(line[1] != line[2] for line in found):
             problems.append(f"attachments are lost: {found}")
         if found != again:
             problems.append(f"{found} the first time, {again} the second")
-        return [f"crash {number} ({'untitled' if untitled else 'named'}): {problem}" for problem in problems]
+        kind = "untitled" if untitled else "named"
+        return loss, [f"crash {number} ({kind}): {problem}" for problem in problems]
+
+
+def crashes(probe, pace, count):
+    with concurrent.futures.ThreadPoolExecutor(max_workers=8 if pace == "real" else 4) as pool:
+        results = list(pool.map(lambda number: one_crash(probe, pace, number), range(count)))
+    print(f"{pace}: {count} crashes, {max(loss for loss, _ in results):.2f} s of edits lost at most", flush=True)
+    return [problem for _, problems in results for problem in problems]
 
 
 def main():
     probe = sys.argv[1]
-    runs = int(sys.argv[2]) if len(sys.argv) > 2 else 100
-    with concurrent.futures.ThreadPoolExecutor(max_workers=4) as pool:
-        problems = sum(pool.map(lambda number: one_crash(probe, number), range(runs)), [])
-    print("\n".join(problems) or f"{runs} crashes, nothing lost that should be there")
+    count = int(sys.argv[2]) if len(sys.argv) > 2 else 100
+    pace = sys.argv[3] if len(sys.argv) > 3 else "fast"
+    problems = crashes(probe, pace, count)
+    if pace == "fast":
+        for sabotage in ("never", "late"):
+            if not crashes(probe, sabotage, 8):
+                problems.append(f"{sabotage}: the sabotage went unnoticed")
+    print("\n".join(problems) or "nothing is lost that should be there")
     return 1 if problems else 0
 
 

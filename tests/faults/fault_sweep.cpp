@@ -23,6 +23,8 @@ struct Disk {
     bool renames_all_the_same = false;
 };
 
+constexpr PruningRule few{.recent = 3, .days = 0, .weeks = 0};
+
 struct Fault {
     int call = 0;
     int error = EIO;
@@ -85,7 +87,7 @@ std::string Sweep::try_fault(const Fault& fault, bool& reached)
     const PackageContents contents = version(number_ + 1, &read_.contents);
     const auto saved = save_package(*read_.place, request(contents, disk_.keeper ? &keeper : nullptr), *lock_, calls);
     if (disk_.keeper)
-        keeper.prune(path_, {}, {.recent = 3, .days = 0, .weeks = 0});
+        keeper.prune(path_, {}, few);
     reached = calls.reached();
 
     const Verdict found = judge(path_, &*lock_);
@@ -133,6 +135,7 @@ std::string Sweep::recover(const PackageContents& contents, const std::vector<Bl
             + std::to_string(static_cast<int>(saved.error().problem));
     if (judge(path_, &*lock_).number != number_ + 1)
         return "the next save is not whole";
+    kept_.prune(path_, {}, few);
     for (const Blob& blob : dropped)
         if (!blob.read())
             return "an attachment that an undo step may want is lost";

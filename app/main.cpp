@@ -1,9 +1,13 @@
 #include "app/application.h"
 #include "app/early_read.h"
 #include "app/first_paint.h"
+#include "app/keep_safe.h"
 #include "app/options.h"
 #include "app/recovery_offer.h"
+#include "app/requested_start.h"
 #include "app/session_watch.h"
+#include "app/single_instance.h"
+#include "app/start_server.h"
 #include "desktop/early_fonts.h"
 #include "desktop/focus_ring.h"
 #include "desktop/icons.h"
@@ -35,29 +39,6 @@ int answer_without_window(const app::Options& options)
     return options.exit_status;
 }
 
-/// Nothing unsaved may depend on the program coming back, or on somebody being there to answer.
-void keep_safe(app::Application& program, app::SessionWatch& session)
-{
-    using app::SessionWatch;
-    const auto put_in_safety = [&program] { program.put_in_safety(); };
-    QObject::connect(&session, &SessionWatch::going_to_sleep, &program, put_in_safety);
-    QObject::connect(&session, &SessionWatch::session_ending, &program, put_in_safety);
-    QObject::connect(&session, &SessionWatch::stop_asked, &program, [&program] {
-        program.put_in_safety();
-        std::_Exit(0); // without the questions of closing windows; what is not saved is offered at the next start
-    });
-}
-
-void open_what_was_asked_for(app::Application& program, const app::Options& options)
-{
-    for (const QString& file : options.files)
-        program.open(file, nullptr);
-    if (options.sample)
-        program.open_sample();
-    if (options.files.isEmpty() && !options.sample)
-        program.show_start();
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -67,6 +48,9 @@ int main(int argc, char** argv)
     if (!early.text.empty())
         return answer_without_window(early);
 
+    app::SingleInstance instance;
+    if (early.shareable && instance.claim(app::request_of(early)) == app::StartRole::handedOver)
+        return 0;
     const std::jthread fonts = desktop::read_fonts_early();
     app::EarlyRead source(early);
     // The menu bar stands in its window; asking the desktop for another place would cost a round trip at every start.
@@ -82,7 +66,7 @@ int main(int argc, char** argv)
     app::Application program(
         app::Surroundings{.source = source, .clock = options.clock(), .state_folder = platform::state_folder()});
     app::SessionWatch session;
-    keep_safe(program, session);
+    app::keep_safe(program, session);
     // What no eye misses at once waits until the first window is on the screen.
     app::FirstPaint::after(program, [&] {
         if (options.exit_after_paint)
@@ -92,6 +76,8 @@ int main(int argc, char** argv)
         session.listen_for_sleep();
         app::offer_recovery(program, QApplication::activeWindow());
     });
-    open_what_was_asked_for(program, options);
+    app::open_requested(program, app::request_of(options));
+    const app::StartServer later_starts(
+        instance, [&program](const app::StartRequest& request) { app::perform_request(program, request); });
     return QApplication::exec();
 }

@@ -65,6 +65,8 @@ Options read_options(const QStringList& arguments, Strictness strictness)
     options.scheme = parser.value(scheme_option);
     options.today = grants::Day::parse(parser.value(today_option).toStdString());
     options.exit_after_paint = parser.isSet(exit_option);
+    options.shareable =
+        understood && !parser.isSet(scheme_option) && !parser.isSet(today_option) && !parser.isSet(exit_option);
     if (parser.isSet(help_option)) // before there is an application, the parser knows no name of the program
         options.text =
             parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("quillfern")).toStdString();

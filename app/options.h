@@ -17,6 +17,7 @@ struct Options {
     QString scheme; ///< "light", "dark" or empty for the desktop's
     std::optional<grants::Day> today; ///< instead of the calendar's date
     bool exit_after_paint = false; ///< for measuring the start
+    bool shareable = false; ///< a program that runs already, with other options, could do the same
     std::string text; ///< to print instead of opening a window; empty: none
     int exit_status = 0;
 

@@ -3,11 +3,11 @@
 #include "platform/file_bytes.h"
 #include "platform/hidden_names.h"
 #include "platform/resolve.h"
+#include "platform/runtime_folder.h"
 #include "platform/sha256.h"
 
 #include <charconv>
 #include <climits>
-#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -17,29 +17,6 @@ namespace {
 LockError no_lock(std::string path, int error)
 {
     return {.held = false, .holder = {}, .systemError = error, .path = std::move(path)};
-}
-
-/// Makes the folder when it is missing. In /tmp anybody could have made it first, so it must be a real folder that is
-/// ours alone.
-Result<std::string, LockError> private_folder(const std::string& path, SystemCalls& calls)
-{
-    if (calls.make_folder_at(AT_FDCWD, path.c_str(), 0700) != 0 && errno != EEXIST)
-        return fail(no_lock(path, errno));
-    struct stat status = {};
-    if (calls.status_at(AT_FDCWD, path.c_str(), status) != 0)
-        return fail(no_lock(path, errno));
-    if (!S_ISDIR(status.st_mode) || status.st_uid != geteuid() || (status.st_mode & 077) != 0)
-        return fail(no_lock(path, EPERM));
-    return path;
-}
-
-Result<std::string, LockError> lock_folder(SystemCalls& calls)
-{
-    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime && *runtime == '/')
-        if (auto folder = private_folder(join_path(runtime, "quillfern"), calls))
-            return folder;
-    return private_folder("/tmp/quillfern-" + std::to_string(geteuid()), calls);
 }
 
 Result<std::string, LockError> key_of(const std::string& document, SystemCalls& calls)
@@ -85,9 +62,9 @@ LockHolder read_holder(SystemCalls& calls, int file)
 
 Result<DocumentLock, LockError> DocumentLock::acquire(const std::string& document, SystemCalls& calls)
 {
-    const auto folder = lock_folder(calls);
+    const auto folder = runtime_folder(calls);
     if (!folder)
-        return fail(folder.error());
+        return fail(no_lock(folder.error().path, folder.error().systemError));
     return acquire_in(*folder, document, calls);
 }
 

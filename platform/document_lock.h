@@ -23,11 +23,10 @@ struct LockError {
 
 /// The right to write one document, held from opening to closing.
 ///
-/// It is a lock on a small file of the user's runtime folder ($XDG_RUNTIME_DIR/quillfern, else a private folder in
-/// /tmp), never on the package, whose folder a save exchanges. The key is the document's folder (device and inode, so
-/// that every way there counts as one) and its name; a package that does not exist yet can be locked, too. The kernel
-/// lets go when the program ends, however it ends. Two windows of one program exclude each other like two programs.
-/// Only programs on this computer and of this user are kept apart.
+/// It is a lock on a small file of the user's runtime folder, never on the package, whose folder a save exchanges. The
+/// key is the document's folder (device and inode, so that every way there counts as one) and its name; a package that
+/// does not exist yet can be locked, too. The kernel lets go when the program ends, however it ends. Two windows of one
+/// program exclude each other like two programs. Only programs on this computer and of this user are kept apart.
 ///
 ///     auto lock = DocumentLock::acquire("/home/ana/Pantry.quillfern");
 ///     if (!lock && lock.error().held) ...   // open it read-only

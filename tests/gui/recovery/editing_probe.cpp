@@ -2,9 +2,11 @@
 // number of each edit as soon as it is made, with the time. editing_probe recover STATE: prints what the program would
 // give back. PACE is `real`; `fast`; or one of the sabotaged ones, `never` and `late`.
 #include "app/application.h"
+#include "app/keep_safe.h"
 #include "app/main_window.h"
 #include "app/open_document.h"
 #include "app/recovery_offer.h"
+#include "app/session_watch.h"
 #include "desktop/alert.h"
 #include "desktop/theme.h"
 #include "grants/org_package.h"
@@ -106,6 +108,8 @@ int main(int argc, char** argv)
         .state_folder = state,
         .pace = pace_named(argc > 4 ? argv[4] : "fast"),
         .settings_file = QString::fromStdString(state + "/settings.conf")});
+    SessionWatch session;
+    keep_safe(program, session);
     program.preferences().edit([](PreferenceValues& values) { values.welcomeDone = true; });
     if (argv[1] == std::string("recover")) {
         offer_recovery(program, nullptr);

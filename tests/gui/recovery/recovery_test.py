@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""recovery_test.py PROBE [CRASHES [real]]: kills an editing program at random moments and looks at what the next start
+"""recovery_test.py PROBE [RUNS [real]]: kills an editing program at random moments and looks at what the next start
 gives back: at most the edits of the longest wait may be lost, in untitled documents too, and the file on the disk is
-whole. With fast snapshots unless they are to be at the real pace; then sabotaged ones must be found out, too.
+whole. With fast snapshots unless they are to be at the real pace; then sabotaged ones must be found out, too. When the
+program is asked to stop, nothing at all may be lost, and a document with a file needs no recovery.
 """
 import concurrent.futures
 import json
@@ -28,14 +29,15 @@ def environment(folder):
     return own
 
 
-def edit_and_kill(probe, folder, package, pace, life):
+def edit_and_kill(probe, folder, package, pace, life, sent=signal.SIGKILL, meanwhile=lambda: None):
     """The edits that were made, as (number, seconds), and when the program died."""
     editor = subprocess.Popen([probe, "edit", str(folder / "state"), package, pace], stdout=subprocess.PIPE,
                               text=True, env=environment(folder))
     first = editor.stdout.readline()
     time.sleep(life)
+    meanwhile()
     died = time.monotonic()
-    editor.send_signal(signal.SIGKILL)
+    editor.send_signal(sent)
     lines = [first] + editor.stdout.readlines()
     editor.wait()
     edits = [line.split() for line in lines if line.endswith("\n")]
@@ -84,15 +86,45 @@ def crashes(probe, pace, count):
     return [problem for _, problems in results for problem in problems]
 
 
+def one_stop(probe, pace, number):
+    """In turn: a new document, one with a file, and one whose file another program has written to."""
+    kind = ("untitled", "named", "changed outside")[number % 3]
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        main_file = folder / "Pantry.quillfern" / "Quillfern.json"
+        main_file.parent.mkdir()
+        write = lambda: main_file.write_text('{"formatVersion": 2, "org": {"name": "0"}}')
+        write()
+        stop = random.Random(number).choice((signal.SIGTERM, signal.SIGINT, signal.SIGHUP))
+        edits, _ = edit_and_kill(probe, folder, "-" if kind == "untitled" else str(main_file.parent), pace,
+                                 random.Random(number).uniform(0, 2), stop,
+                                 write if kind == "changed outside" else lambda: None)
+        last = edits[-1][0]
+        on_disk = int(json.loads(main_file.read_text())["org"]["name"])
+        found = [int(line[0]) for line in recovered(probe, folder)]
+        as_it_should_be = on_disk == last and not found if kind == "named" else last in [on_disk] + found
+        if as_it_should_be:
+            return []
+        return [f"stop {number} ({kind}, {stop.name}): edit {last}, {on_disk} on the disk, {found} recovered"]
+
+
+def stops(probe, pace, count):
+    with concurrent.futures.ThreadPoolExecutor(max_workers=4) as pool:
+        problems = sum(pool.map(lambda number: one_stop(probe, pace, number), range(count)), [])
+    print(f"{count} stops", flush=True)
+    return problems
+
+
 def main():
     probe = sys.argv[1]
-    count = int(sys.argv[2]) if len(sys.argv) > 2 else 100
+    runs = int(sys.argv[2]) if len(sys.argv) > 2 else 100
     pace = sys.argv[3] if len(sys.argv) > 3 else "fast"
-    problems = crashes(probe, pace, count)
+    problems = crashes(probe, pace, runs)
     if pace == "fast":
         for sabotage in ("never", "late"):
             if not crashes(probe, sabotage, 8):
                 problems.append(f"{sabotage}: the sabotage went unnoticed")
+    problems += stops(probe, pace, runs // 4)
     print("\n".join(problems) or "nothing is lost that should be there")
     return 1 if problems else 0
 

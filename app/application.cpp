@@ -1,5 +1,6 @@
 #include "app/application.h"
 
+#include "app/first_paint.h"
 #include "app/main_window.h"
 #include "app/open_document.h"
 #include "app/package_path.h"
@@ -12,7 +13,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QTimer>
 
 #include <algorithm>
 #include <optional>
@@ -203,14 +203,34 @@ MainWindow& Application::show_document(std::unique_ptr<OpenDocument> document)
     });
     connect(window, &MainWindow::stays_open, this, [this] { quitting_ = false; });
     window->show();
+    FirstPaint::after(*window, [this, window] { greet(window->model()); }); // a sheet must not make the start slower
     if (start_)
         start_->close();
     Q_EMIT window_shown(window);
     tell_notes(*window);
-    if (!preferences_.values().welcomeDone) // once the window stands
-        QTimer::singleShot(0, window,
-            [window] { window->model().edit([](WindowState& state) { state.sheet = sheet::Plain::welcome; }); });
     return *window;
+}
+
+void Application::greet(WindowModel& model)
+{
+    if (preferences_.values().welcomeDone)
+        tell_settings_problem(model);
+    else
+        model.edit([](WindowState& state) { state.sheet = sheet::Plain::welcome; });
+}
+
+void Application::end_welcome(WindowModel& model)
+{
+    preferences_.edit([](PreferenceValues& values) { values.welcomeDone = true; });
+    tell_settings_problem(model); // not while the sheet was above it
+}
+
+/// The settings are those of all windows: one of them tells, once.
+void Application::tell_settings_problem(WindowModel& model)
+{
+    if (preferences_.problem().isEmpty() || std::exchange(settings_problem_told_, true))
+        return;
+    model.tell(preferences_.problem().toStdString());
 }
 
 void Application::refuse(const grants::PackageError& error, const QString& path, QWidget* asking)

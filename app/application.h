@@ -24,6 +24,7 @@ class MainWindow;
 class OpenDocument;
 class SettingsWindow;
 class StartWindow;
+class WindowModel;
 
 /// What the program works with.
 struct Surroundings {
@@ -64,6 +65,9 @@ public:
 
     void show_settings();
 
+    /// The user has left the welcome sheet, in whatever way.
+    void end_welcome(WindowModel& model);
+
     /// Closes every window, asking where something would be lost, and ends the program unless the user stays.
     void quit();
 
@@ -84,6 +88,8 @@ private:
     MainWindow* window_of(const QString& path) const;
     MainWindow& show_document(std::unique_ptr<OpenDocument> document);
     void refuse(const grants::PackageError& error, const QString& path, QWidget* asking);
+    void greet(WindowModel& model);
+    void tell_settings_problem(WindowModel& model);
     std::unique_ptr<OpenDocument> read_quietly(const QString& path);
     void close_next();
     void save_all();
@@ -100,6 +106,7 @@ private:
     QPointer<StartWindow> start_;
     QPointer<SettingsWindow> settings_window_;
     bool quitting_ = false;
+    bool settings_problem_told_ = false;
 };
 
 } // namespace quillfern::app

@@ -79,8 +79,7 @@ QString counts_toast(const grants::BoardCounts& counts)
 {
     return QStringLiteral("Board imported: ")
         + qt(count_words(counts.members, "member") + ", " + count_words(counts.meetings, "meeting") + ", "
-            + count_words(counts.motions, "motion") + ", " + count_words(counts.actions, "action item"))
-        + QLatin1Char('.');
+            + count_words(counts.motions, "motion") + ", " + count_words(counts.actions, "action"));
 }
 
 /// No words when all of the board came.

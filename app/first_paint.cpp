@@ -20,6 +20,11 @@ void FirstPaint::after(Application& program, std::function<void()> then)
         [waiting](QWidget* window) { window->windowHandle()->installEventFilter(waiting); });
 }
 
+void FirstPaint::after(QWidget& window, std::function<void()> then)
+{
+    window.windowHandle()->installEventFilter(new FirstPaint(&window, std::move(then)));
+}
+
 /// A window whose parts cover it wholly is never painted itself, so its paint events would not tell.
 bool FirstPaint::eventFilter(QObject* watched, QEvent* event)
 {

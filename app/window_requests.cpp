@@ -78,12 +78,10 @@ void WindowRequests::open_sheet(const WindowSheet& sheet)
             opened, &QDialog::finished, this, [this] { model_.edit([](WindowState& state) { state.sheet.reset(); }); });
 }
 
-/// However the sheet is left, the user has seen it.
 QDialog* WindowRequests::open_welcome()
 {
     auto* welcome = new WelcomeSheet({.importCSV = false, .importBoard = document_.disk().is_writable()}, &window_);
-    connect(welcome, &WelcomeSheet::finished, this,
-        [this] { application_.preferences().edit([](PreferenceValues& values) { values.welcomeDone = true; }); });
+    connect(welcome, &WelcomeSheet::finished, this, [this] { application_.end_welcome(model_); });
     connect(welcome, &WelcomeSheet::sample_chosen, &application_, &Application::open_sample);
     connect(welcome, &WelcomeSheet::import_board_chosen, this, [this] { model_.ask(request::Plain::importMarrowind); });
     welcome->open();

@@ -57,10 +57,10 @@ TEST_F(BoardImportTest, APackageTheFileInItAndALooseFileGiveTheSameBoard)
 TEST_F(BoardImportTest, TheToastCounts)
 {
     put("A.json", "{}");
-    EXPECT_EQ(import("A.json").toast, "Board imported: 0 members, 0 meetings, 0 motions, 0 action items.");
+    EXPECT_EQ(import("A.json").toast, "Board imported: 0 members, 0 meetings, 0 motions, 0 actions");
     put("B.json", R"({"members": [{"id": "00000000-0000-0000-0000-000000000001"}],
         "meetings": [{"motions": [{}, {}]}], "actions": [{}]})");
-    EXPECT_EQ(import("B.json").toast, "Board imported: 1 member, 1 meeting, 2 motions, 1 action item.");
+    EXPECT_EQ(import("B.json").toast, "Board imported: 1 member, 1 meeting, 2 motions, 1 action");
 }
 
 TEST_F(BoardImportTest, WhatIsNoBoardChangesNothingAndSaysSo)

@@ -102,8 +102,8 @@ TEST_F(BoardOpenDialogTest, ReturnOrTheButtonImportsAPackageAndTheSecondTimeSays
     }
     EXPECT_EQ(file.board->name, "Elm Court");
     EXPECT_EQ(told,
-        QStringList({"Import Board", "Board imported: 0 members, 0 meetings, 0 motions, 0 action items.",
-            "Import Board", "This board is already in this file. Nothing changed."}));
+        QStringList({"Import Board", "Board imported: 0 members, 0 meetings, 0 motions, 0 actions", "Import Board",
+            "This board is already in this file. Nothing changed."}));
     EXPECT_FALSE(window.findChild<desktop::Alert*>());
 }
 

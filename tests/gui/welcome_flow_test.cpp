@@ -1,3 +1,4 @@
+#include "app/first_paint.h"
 #include "app/welcome_sheet.h"
 #include "window_fixture.h"
 
@@ -11,8 +12,9 @@ protected:
     WelcomeFlowTest()
     {
         program_.preferences().edit([](PreferenceValues& values) { values.welcomeDone = false; });
+        FirstPaint::after(program_, [this] { painted_first_ = !sheet(); });
         program_.show_start();
-        settle();
+        static_cast<void>(QTest::qWaitFor([this] { return sheet(); }));
     }
 
     static void settle()
@@ -29,6 +31,8 @@ protected:
         return nullptr;
     }
 
+    bool painted_first_ = false;
+
     bool is_done() { return program_.preferences().values().welcomeDone; }
 };
 
@@ -36,6 +40,7 @@ TEST_F(WelcomeFlowTest, AFirstStartShowsItOverAnEmptyFileAndDismissingItIsForGoo
 {
     ASSERT_EQ(program_.windows().size(), 1);
     ASSERT_TRUE(sheet());
+    EXPECT_TRUE(painted_first_) << "the sheet waits until the window is on the screen";
     EXPECT_TRUE(program_.windows().front()->model().state().sheet);
     EXPECT_FALSE(is_done());
     QTest::keyClick(sheet(), Qt::Key_Escape);
@@ -58,6 +63,31 @@ TEST_F(WelcomeFlowTest, TheSampleOpensInAWindowOfItsOwnWithoutASecondWelcome)
     EXPECT_FALSE(program_.windows().front()->document().document().is_modified());
     EXPECT_FALSE(program_.windows().front()->document().document().file().grants.size())
         << "the user's own file stays as it is";
+}
+
+TEST_F(WelcomeFlowTest, SettingsThatCannotBeReadAreToldOnceTheWelcomeIsLeft)
+{
+    const QString settings = folder_.filePath("damaged.conf");
+    QFile file(settings);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("\xff\xfe");
+    file.close();
+    Application program(Surroundings{.source = source_,
+        .clock = [this] { return today_; },
+        .state_folder = folder_.filePath("other state").toStdString(),
+        .settings_file = settings});
+    program.show_start();
+    settle();
+    const auto toast = [&program](qsizetype window) {
+        const auto& told = program.windows()[window]->model().state().toast;
+        return told ? told->text : std::string();
+    };
+    EXPECT_EQ(toast(0), "");
+    program.windows()[0]->findChild<WelcomeSheet*>()->reject();
+    EXPECT_THAT(toast(0), testing::StartsWith("The settings couldn’t be read"));
+    program.new_document();
+    settle();
+    EXPECT_EQ(toast(1), "");
 }
 
 TEST_F(WelcomeFlowTest, TheSettingBringsItBack)

@@ -14,22 +14,29 @@ protected:
         program_.preferences().edit([](PreferenceValues& values) { values.welcomeDone = false; });
         FirstPaint::after(program_, [this] { painted_first_ = !sheet(); });
         program_.show_start();
-        static_cast<void>(QTest::qWaitFor([this] { return sheet(); }));
+        settle();
     }
 
-    static void settle()
+    /// A sheet comes once its window is on the screen.
+    static void settle(const Application& program)
     {
+        for (MainWindow* window : program.windows())
+            ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    WelcomeSheet* sheet()
+    void settle() { settle(program_); }
+
+    static WelcomeSheet* sheet_of(const Application& program)
     {
-        for (MainWindow* window : program_.windows())
+        for (MainWindow* window : program.windows())
             if (auto* welcome = window->findChild<WelcomeSheet*>())
                 return welcome;
         return nullptr;
     }
+
+    WelcomeSheet* sheet() { return sheet_of(program_); }
 
     bool painted_first_ = false;
 
@@ -77,16 +84,16 @@ TEST_F(WelcomeFlowTest, SettingsThatCannotBeReadAreToldOnceTheWelcomeIsLeft)
         .state_folder = folder_.filePath("other state").toStdString(),
         .settings_file = settings});
     program.show_start();
-    settle();
+    settle(program);
     const auto toast = [&program](qsizetype window) {
         const auto& told = program.windows()[window]->model().state().toast;
         return told ? told->text : std::string();
     };
     EXPECT_EQ(toast(0), "");
-    program.windows()[0]->findChild<WelcomeSheet*>()->reject();
+    sheet_of(program)->reject();
     EXPECT_THAT(toast(0), testing::StartsWith("The settings couldn’t be read"));
     program.new_document();
-    settle();
+    settle(program);
     EXPECT_EQ(toast(1), "");
 }
 

@@ -88,4 +88,14 @@ std::string write_grant_file(const GrantFile& file)
     return std::move(json).finish();
 }
 
+std::string write_grant(const Grant& grant)
+{
+    constexpr std::size_t level = 2; // inside the file's object and its list
+    platform::JsonWriter json(level);
+    write(json, grant);
+    std::string text = std::move(json).finish();
+    text.pop_back();
+    return text;
+}
+
 } // namespace quillfern::grants

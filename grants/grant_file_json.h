@@ -32,4 +32,7 @@ GrantFile in_current_format(GrantFile file);
 /// The text of "Quillfern.json" in the current format: pretty-printed, keys sorted, the same bytes for equal files.
 std::string write_grant_file(const GrantFile& file);
 
+/// One grant as it stands in that text, from its opening brace to its closing one.
+std::string write_grant(const Grant& grant);
+
 } // namespace quillfern::grants

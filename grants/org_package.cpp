@@ -1,7 +1,7 @@
 #include "grants/org_package.h"
 
 #include "grants/grant_file_json.h"
-#include "grants/read_back.h"
+#include "grants/written_grants.h"
 #include "platform/clock.h"
 #include "platform/package_move.h"
 #include "platform/package_reader.h"
@@ -52,18 +52,18 @@ PackageError package_error(const GrantFileError& error)
     return {Reason::unreadable, std::get<ReadError>(error).text()};
 }
 
-platform::PackageContents contents_of(const OrgPackage& package)
+platform::PackageContents contents_of(const OrgPackage& package, WrittenGrants& written)
 {
-    return {.mainText = write_grant_file(package.file), .attachments = *package.attachments, .logo = package.logo};
+    return {.mainText = written.text_of(package.file), .attachments = *package.attachments, .logo = package.logo};
 }
 
-platform::SaveRequest request_for(
-    const OrgPackage& package, const platform::PackageContents& contents, platform::DisplacedTrees* displaced)
+platform::SaveRequest request_for(const OrgPackage& package, const platform::PackageContents& contents,
+    WrittenGrants& written, platform::DisplacedTrees* displaced)
 {
     return {.layout = layout(),
         .contents = contents,
         .today = today_here().text(),
-        .readsBack = [&] { return reads_back(contents.mainText, package.file); },
+        .readsBack = [&] { return written.reads_back(contents.mainText, package.file); },
         .displaced = displaced};
 }
 
@@ -90,16 +90,24 @@ Result<OpenedPackage, PackageError> read_package(
 Result<platform::SaveOutcome, platform::SaveError> write_package(const OrgPackage& package,
     platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced)
 {
-    const platform::PackageContents contents = contents_of(package);
-    return platform::save_package(place, request_for(package, contents, displaced), lock);
+    if (!place.encoderMemory.has_value())
+        place.encoderMemory = WrittenGrants{};
+    auto& written = std::any_cast<WrittenGrants&>(place.encoderMemory);
+    const platform::PackageContents contents = contents_of(package, written);
+    return platform::save_package(place, request_for(package, contents, written, displaced), lock);
 }
 
 Result<platform::NewPackage, platform::SaveError> write_package_as(const OrgPackage& package, const std::string& path,
     platform::Existing existing, platform::Ownership ownership, const platform::DocumentLock& lock,
     platform::DisplacedTrees* displaced)
 {
-    const platform::PackageContents contents = contents_of(package);
-    return platform::save_package_as(path, request_for(package, contents, displaced), existing, ownership, lock);
+    WrittenGrants written;
+    const platform::PackageContents contents = contents_of(package, written);
+    auto made =
+        platform::save_package_as(path, request_for(package, contents, written, displaced), existing, ownership, lock);
+    if (made)
+        made->place->encoderMemory = std::move(written);
+    return made;
 }
 
 platform::PackageChange compare_with_disk(const platform::PackagePlace& place)

@@ -109,6 +109,12 @@ std::optional<std::vector<Expectation>> expectations(
     return first == grants.size() ? std::optional(std::move(all)) : std::nullopt;
 }
 
+/// Asking for the number of cores reads a system file, which costs more than reading back a small piece.
+std::size_t readers_for(std::size_t pieces)
+{
+    return pieces < 2 ? pieces : std::min<std::size_t>({pieces, std::thread::hardware_concurrency(), most_readers});
+}
+
 bool gives_all(const std::vector<std::string_view>& pieces, const std::vector<Shared<Grant>>& grants)
 {
     const auto all = expectations(pieces, grants);
@@ -121,11 +127,9 @@ bool gives_all(const std::vector<std::string_view>& pieces, const std::vector<Sh
             if (!holds((*all)[i]))
                 fine = false;
     };
-    const std::size_t readers =
-        std::min<std::size_t>(all->size(), std::min(std::thread::hardware_concurrency(), most_readers));
     {
         std::vector<std::jthread> others;
-        for (std::size_t i = 1; i < readers; ++i)
+        for (std::size_t i = 1, readers = readers_for(all->size()); i < readers; ++i)
             others.emplace_back(read_pieces);
         read_pieces();
     }

@@ -55,8 +55,12 @@ std::optional<std::string> decoded(std::string_view text)
 std::string line(std::initializer_list<std::string_view> words)
 {
     std::string result;
-    for (const std::string_view word : words)
-        result += (result.empty() ? "" : " ") + (result.empty() ? std::string(word) : encoded(word));
+    for (const std::string_view word : words) {
+        if (result.empty())
+            result = word;
+        else
+            result.append(1, ' ').append(encoded(word));
+    }
     return result + '\n';
 }
 

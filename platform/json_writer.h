@@ -18,6 +18,11 @@ namespace quillfern::platform {
 ///     json.end_object();
 class JsonWriter {
 public:
+    JsonWriter() = default;
+
+    /// Writes a part of a text, which will stand inside this many brackets.
+    explicit JsonWriter(std::size_t level) : level_(level) { }
+
     void reserve(std::size_t bytes) { text_.reserve(bytes); }
 
     void begin_object() { begin('{'); }

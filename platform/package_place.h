@@ -2,6 +2,7 @@
 
 #include "platform/package_listing.h"
 
+#include <any>
 #include <memory>
 #include <set>
 #include <vector>
@@ -31,6 +32,9 @@ struct PackagePlace {
 
     /// The next good save disposes of them. Of those that nobody takes, the newest stays.
     std::vector<KeptTree> keptTrees = {};
+
+    /// What whoever encodes the records remembers from one save to the next. The saver does not look at it.
+    std::any encoderMemory = {};
 };
 
 } // namespace quillfern::platform

@@ -4,7 +4,6 @@
 #include "platform/swap.h"
 
 #include <algorithm>
-#include <future>
 #include <iterator>
 
 namespace quillfern::platform {
@@ -85,9 +84,6 @@ Step PackageSaver::make_sibling()
 
 Step PackageSaver::build(Reuse reuse, const TreeLocation* own_tree)
 {
-    std::future<bool> reads_back;
-    if (request_.readsBack)
-        reads_back = std::async(std::launch::async, request_.readsBack);
     if (const Step made = make_sibling(); !made)
         return made;
     const Descriptor folder = open_folder_at(calls_, parent_.get(), sibling_);
@@ -97,14 +93,14 @@ Step PackageSaver::build(Reuse reuse, const TreeLocation* own_tree)
         .present = replaces ? &present : nullptr,
         .presentTree = own_tree,
         .reuse = reuse,
-        .arrived = arrived};
+        .arrived = arrived,
+        .readsBack = request_.readsBack};
     auto tree = folder ? build_tree(calls_, {folder.get(), path_of(sibling_)}, plan)
                        : fail(save_error(SaveStep::build, path_of(sibling_), error));
-    if (tree && reads_back.valid() && !reads_back.get())
-        tree = fail(this->error(SaveProblem::badContents));
     if (!tree) {
         remove_new_state(sibling_);
-        return fail(tree.error());
+        const bool unreadable = tree.error().problem == SaveProblem::badContents;
+        return fail(unreadable ? this->error(SaveProblem::badContents) : tree.error());
     }
     built = std::move(*tree);
     return Done{};

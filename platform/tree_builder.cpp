@@ -28,6 +28,8 @@ private:
     Written begin_main_file();
     Written write_read_me();
     Written finish_main_file();
+    Written flush_attachments();
+    Written finish_reading_back();
     Written finish_folder();
 
     Result<FileStamp, SaveError> write_blob(const TargetFolder& target, const std::string& name, const Blob& blob);
@@ -46,18 +48,19 @@ private:
     TargetFolder attachments_;
     enum class Clones { unknown, made, refused } clones_ = Clones::unknown;
     BuiltTree built_;
-    std::future<Result<FileStamp, SaveError>> main_file_; ///< last: a failing build waits for it
+    // Last: a failing build waits for them.
+    std::future<Result<FileStamp, SaveError>> main_file_;
+    std::future<bool> reads_back_;
 };
 
 Result<BuiltTree, SaveError> TreeBuilder::build()
 {
-    auto hash = std::async(std::launch::async, [this] { return sha256(plan_.contents.mainText); });
     using Step = Written (TreeBuilder::*)();
     for (const Step step : {&TreeBuilder::begin_main_file, &TreeBuilder::write_attachments, &TreeBuilder::write_logo,
-             &TreeBuilder::write_read_me, &TreeBuilder::finish_main_file, &TreeBuilder::finish_folder})
+             &TreeBuilder::write_read_me, &TreeBuilder::finish_main_file, &TreeBuilder::flush_attachments,
+             &TreeBuilder::finish_reading_back, &TreeBuilder::finish_folder})
         if (const Written written = (this->*step)(); !written)
             return fail(written.error());
-    built_.fingerprint.mainHash = hash.get();
     return std::move(built_);
 }
 
@@ -81,7 +84,7 @@ TreeBuilder::Written TreeBuilder::write_attachments()
     if (plan_.present && plan_.present->attachments)
         copy_attributes(calls_, plan_.present->attachments.get(), attachments_.folder);
     built_.fingerprint.listing.hasAttachmentsFolder = true;
-    return flush(calls_, attachments_.folder, attachments_.path);
+    return Done{};
 }
 
 TreeBuilder::Written TreeBuilder::write_attachment(const std::string& name, const Blob& blob)
@@ -112,14 +115,16 @@ TreeBuilder::Written TreeBuilder::write_logo()
     return Done{};
 }
 
-/// The text is written and flushed while the attachments are linked: the one waits for the disk, the other for the
-/// processor.
+/// The text is written and flushed while the attachments are linked and the text is read back and hashed: the one waits
+/// for the disk, the other for the processor. Writing begins first, as it takes longest.
 TreeBuilder::Written TreeBuilder::begin_main_file()
 {
     main_file_ = std::async(std::launch::async, [this] {
         return write_new_file(
             calls_, sibling_, unfinished_main_file, plan_.contents.mainText, present_file(plan_.layout.mainFile).get());
     });
+    if (plan_.readsBack)
+        reads_back_ = std::async(std::launch::async, plan_.readsBack);
     return Done{};
 }
 
@@ -136,6 +141,7 @@ TreeBuilder::Written TreeBuilder::write_read_me()
 
 TreeBuilder::Written TreeBuilder::finish_main_file()
 {
+    built_.fingerprint.mainHash = sha256(plan_.contents.mainText);
     const auto stamp = main_file_.get();
     if (!stamp)
         return fail(stamp.error());
@@ -143,6 +149,19 @@ TreeBuilder::Written TreeBuilder::finish_main_file()
     if (calls_.rename_at(sibling_.folder, unfinished_main_file, sibling_.folder, name, 0) != 0)
         return fail(save_error(SaveStep::build, join_path(sibling_.path, name), errno));
     built_.fingerprint.listing.mainFile = *stamp;
+    return Done{};
+}
+
+/// After the text and not beside it: a journal is flushed as a whole, and two flushes at once wait for each other.
+TreeBuilder::Written TreeBuilder::flush_attachments()
+{
+    return attachments_folder_ ? flush(calls_, attachments_.folder, attachments_.path) : Written(Done{});
+}
+
+TreeBuilder::Written TreeBuilder::finish_reading_back()
+{
+    if (reads_back_.valid() && !reads_back_.get())
+        return fail(SaveError{SaveProblem::badContents, SaveStep::check, sibling_.path, 0});
     return Done{};
 }
 

@@ -3,6 +3,7 @@
 #include "platform/file_copy.h"
 #include "platform/package_place.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -32,6 +33,7 @@ struct BuildPlan {
     const TreeLocation* presentTree = nullptr; ///< through which blobs read from `present`; null when none do
     Reuse reuse = Reuse::copies;
     StampedFiles arrived = {}; ///< attachments of `present` that others have put there, carried over
+    std::function<bool()> readsBack = {}; ///< runs beside the building; when it says no the error is `badContents`
 };
 
 /// A finished tree, flushed to the disk.

@@ -8,7 +8,9 @@ namespace quillfern::cli {
 
 void TextTable::heading(std::string_view text)
 {
-    lines_.push_back({(lines_.empty() ? "" : "\n") + platform::on_one_line(text), {}});
+    std::string line(lines_.empty() ? "" : "\n");
+    line += platform::on_one_line(text);
+    lines_.push_back({std::move(line), {}});
 }
 
 void TextTable::line(std::string_view text)

@@ -9,8 +9,9 @@ void WindowModel::set(const WindowState& state)
     if (state == state_)
         return;
     const WindowState before = state_;
-    state_ = state;
-    Q_EMIT changed(before, state_);
+    const WindowState after = state; // who hears of it may change the state again
+    state_ = after;
+    Q_EMIT changed(before, after);
 }
 
 void WindowModel::ask(const WindowRequest& request)

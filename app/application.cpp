@@ -52,6 +52,10 @@ Application::Application(Surroundings surroundings, QObject* parent)
       storage_(surroundings.state_folder, surroundings.pace), settings_file_(surroundings.settings_file),
       preferences_(settings_file_), recent_(settings_file_), help_desk_(*this, model_)
 {
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive)
+            save_all();
+    });
 }
 
 Application::~Application()

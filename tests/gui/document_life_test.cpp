@@ -252,6 +252,15 @@ TEST_F(DocumentLifeTest, QuittingStopsAtTheFirstWindowThatStays)
     EXPECT_TRUE(program_.windows().isEmpty());
 }
 
+TEST_F(DocumentLifeTest, LeavingTheProgramForAnotherOneSaves)
+{
+    MainWindow& window = open_pantry();
+    rename_organization(window, "Second");
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    wait_saved(window);
+    EXPECT_EQ(name_on_disk(path_), "Second");
+}
+
 TEST_F(DocumentLifeTest, WhatOthersWriteIsNeverWrittenOver)
 {
     MainWindow& window = open_pantry();

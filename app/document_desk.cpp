@@ -32,7 +32,8 @@ constexpr int most_names = 100;
 
 QString with_suffix(const QString& name)
 {
-    return name + QLatin1Char('.') + QLatin1String(document_suffix);
+    const QString suffix = QLatin1Char('.') + QLatin1String(document_suffix);
+    return name.endsWith(suffix) ? name : name + suffix;
 }
 
 /// A free name for this window's version beside the document: "Pantry (kept 2026-03-07).quillfern".
@@ -83,7 +84,7 @@ void DocumentDesk::perform(Notice::Action action)
 
 void DocumentDesk::save()
 {
-    if (!document_.disk().is_named())
+    if (!document_.disk().is_named() || !document_.disk().is_writable())
         return save_as();
     document_.look_at_disk();
     if (document_.disk_change() != PackageChange::same)
@@ -192,6 +193,7 @@ void DocumentDesk::revert_to_saved()
 
 void DocumentDesk::reload()
 {
+    decide_close(false); // to be looked at
     const auto done = document_.reload();
     if (!done) {
         const auto words = grants::package_message(done.error(), name().toStdString());
@@ -223,17 +225,20 @@ void DocumentDesk::take_saved(const platform::SaveOutcome& outcome, OpenDocument
     application_.recent_documents().add(document_.disk().path());
     if (asked == OpenDocument::Asked::byUser && !closing_)
         model_.tell("Saved “" + name().toStdString() + "”.");
-    explain(outcome);
-    decide_close(!document_.document().is_modified());
+    const bool has_more_to_say = explain(outcome);
+    decide_close(!document_.document().is_modified() && !has_more_to_say);
 }
 
-/// Once: what cannot be put away now is met again at every save, and some of them nobody has asked for.
-void DocumentDesk::explain(const platform::SaveOutcome& outcome)
+/// Once: what cannot be put away now is met again at every save, and some of them nobody has asked for. Only another
+/// program's version is worth keeping a window open for.
+bool DocumentDesk::explain(const platform::SaveOutcome& outcome)
 {
     const QStringList sentences = outcome_sentences(outcome);
-    if (sentences.isEmpty() || closing_ || sentences == std::exchange(explained_, sentences))
-        return;
+    if (sentences.isEmpty() || (closing_ && outcome.conflict.empty())
+        || sentences == std::exchange(explained_, sentences))
+        return false;
     desktop::show_alert({QStringLiteral("“%1” is saved").arg(name()), sentences.join(QLatin1Char('\n')), {}}, &window_);
+    return true;
 }
 
 void DocumentDesk::take_failure(const SaveFailure& failure, OpenDocument::Asked asked)
@@ -282,11 +287,16 @@ bool DocumentDesk::may_close()
 /// What saves itself needs no question. When it fails, the words of the failure offer to close all the same.
 bool DocumentDesk::try_to_save_before_closing()
 {
-    const QSignalBlocker nobody_waits(this); // the answer is returned
     closing_ = true;
-    document_.save(OpenDocument::Asked::byItself);
-    document_.disk().finish();
-    return !document_.document().is_modified();
+    closes_ = false;
+    {
+        const QSignalBlocker nobody_waits(this); // the answer is returned
+        document_.save(OpenDocument::Asked::byItself);
+        document_.disk().finish();
+    }
+    if (!closing_ && !closes_)
+        Q_EMIT close_decided(false);
+    return closes_;
 }
 
 void DocumentDesk::ask_whether_to_keep()
@@ -306,8 +316,10 @@ void DocumentDesk::ask_whether_to_keep()
 
 void DocumentDesk::decide_close(bool close)
 {
-    if (std::exchange(closing_, false))
-        Q_EMIT close_decided(close);
+    if (!std::exchange(closing_, false))
+        return;
+    closes_ = close;
+    Q_EMIT close_decided(close);
 }
 
 } // namespace quillfern::app

@@ -25,7 +25,7 @@ public:
     /// What a button of the strip over the page asks for.
     void perform(Notice::Action action);
 
-    void save(); ///< asks where when the document lives nowhere yet
+    void save(); ///< asks where when the document lives nowhere yet, or where it must not be written
     void save_as();
     void duplicate();
     void rename();
@@ -52,7 +52,7 @@ private:
 
     void take_saved(const platform::SaveOutcome& outcome, OpenDocument::Asked asked);
     void take_failure(const SaveFailure& failure, OpenDocument::Asked asked);
-    void explain(const platform::SaveOutcome& outcome);
+    bool explain(const platform::SaveOutcome& outcome); ///< whether it had something to say
     void ask_about_change(platform::PackageChange change);
     void revert_to_saved();
     void save_to(const QString& path);
@@ -69,6 +69,7 @@ private:
     QWidget& window_;
     QStringList explained_; ///< what was said of the last save that found something
     bool closing_ = false; ///< a save that is running decides whether the window closes
+    bool closes_ = false; ///< what was decided last
 };
 
 } // namespace quillfern::app

@@ -252,6 +252,20 @@ TEST_F(DocumentLifeTest, QuittingStopsAtTheFirstWindowThatStays)
     EXPECT_TRUE(program_.windows().isEmpty());
 }
 
+TEST_F(DocumentLifeTest, AWindowThatCannotBeSavedEndsTheQuittingForGood)
+{
+    open(write_package(QStringLiteral("Other.quillfern"), file_with_days({})));
+    MainWindow& window = open_pantry();
+    rename_organization(window, "Mine");
+    write_from_outside("Theirs");
+    program_.quit();
+    answer("Keep Both");
+    wait_saved(window);
+    window.close();
+    settle();
+    EXPECT_EQ(program_.windows().size(), 1) << "the other window was not asked to close any more";
+}
+
 TEST_F(DocumentLifeTest, LeavingTheProgramForAnotherOneSaves)
 {
     MainWindow& window = open_pantry();
@@ -317,7 +331,7 @@ TEST_F(DocumentLifeTest, RenamingAndMovingTakeTheOpenDocumentAlong)
     MainWindow& window = open_pantry();
     rename_organization(window, "Unsaved");
     give(window, "rename");
-    shown<QDialog>()->findChild<QLineEdit*>("renameName")->setText(QStringLiteral("Larder"));
+    shown<QDialog>()->findChild<QLineEdit*>("renameName")->setText(QStringLiteral("Larder.quillfern"));
     answer("Rename");
     const QString renamed = folder_.filePath(QStringLiteral("Larder.quillfern"));
     EXPECT_FALSE(fs::exists(path_.toStdString()));
@@ -362,6 +376,15 @@ TEST_F(DocumentLifeTest, WhatAnotherProgramHasOpenCanBeReadButNotChanged)
     EXPECT_TRUE(is_enabled(window, "duplicate"));
 
     write_from_outside("Saved by the other");
+    window.document().look_at_disk();
+    ASSERT_TRUE(window.document().reload());
+    give(window, "undo");
+    window.close();
+    answer("Save");
+    ASSERT_TRUE(shown<QFileDialog>()) << "to another place only";
+    shown<QFileDialog>()->reject();
+    settle();
+    EXPECT_EQ(name_on_disk(path_), "Saved by the other");
     lock.reset();
     press_notice(window, "Try Again");
     EXPECT_EQ(window.document().title(), "Saved by the other");

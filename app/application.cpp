@@ -6,6 +6,7 @@
 #include "app/package_path.h"
 #include "app/settings_window.h"
 #include "app/start_window.h"
+#include "app/window_spot.h"
 #include "desktop/alert.h"
 #include "desktop/package_dialog.h"
 #include "grants/package_messages.h"
@@ -145,8 +146,10 @@ void Application::show_start()
 
 void Application::show_settings()
 {
-    if (!settings_window_)
+    if (!settings_window_) {
         settings_window_ = new SettingsWindow(*this, preferences_);
+        place_over(*settings_window_, QApplication::activeWindow());
+    }
     settings_window_->show();
     settings_window_->come_forward();
 }

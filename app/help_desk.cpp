@@ -4,9 +4,10 @@
 #include "app/help_window.h"
 #include "app/update_check.h"
 #include "app/update_feed.h"
+#include "app/window_spot.h"
 #include "desktop/url_opener.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QUrl>
 
 #include <utility>
@@ -33,8 +34,10 @@ HelpDesk::~HelpDesk()
 
 void HelpDesk::show()
 {
-    if (!window_)
+    if (!window_) {
         window_ = new HelpWindow(application_, model_);
+        place_over(*window_, QApplication::activeWindow());
+    }
     if (window_->isMinimized())
         window_->showNormal();
     window_->show();

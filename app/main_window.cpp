@@ -13,6 +13,7 @@
 #include "app/window_layout.h"
 #include "app/window_placement.h"
 #include "app/window_requests.h"
+#include "app/window_spot.h"
 #include "app/window_tool_bar.h"
 #include "desktop/menu_builder.h"
 #include "desktop/surface.h"
@@ -37,7 +38,6 @@ constexpr double least_sidebar_width = 200;
 constexpr double most_sidebar_width = 360;
 constexpr double strip_width = 60;
 const QSize room_for_a_frame(0, 40); ///< the desktop's title bar
-constexpr int window_offset = 28; ///< between the corners of two windows that open one after the other
 
 WindowState first_state(const grants::GrantFile& file, const grants::Day& today)
 {
@@ -321,8 +321,11 @@ void MainWindow::restore_placement()
         sidebar_width_ = placement.sidebarWidth;
     if (!restoreGeometry(placement.geometry))
         resize(QSize(scaled(1280), scaled(800)).boundedTo(screen()->availableSize() - room_for_a_frame));
-    if (!application().windows().isEmpty() && !isMaximized())
-        move(application().windows().back()->pos() + QPoint(window_offset, window_offset));
+    if (application().windows().isEmpty() || isMaximized())
+        return;
+    const QWidget& before = *application().windows().back();
+    const QSize frame = before.frameGeometry().size() - before.size(); // this window has none before it is shown
+    move(spot_after({before.pos(), size() + frame}, before.screen()->availableGeometry()));
 }
 
 } // namespace quillfern::app

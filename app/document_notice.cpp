@@ -23,10 +23,13 @@ void DocumentNotice::show_notice(const std::optional<Notice>& notice)
 {
     if (notice == std::exchange(shown_, notice))
         return;
+    const bool had_keyboard = strip_ && strip_->isAncestorOf(window()->focusWidget());
     if (strip_)
         strip_->deleteLater(); // one of its buttons may be what brought this about
     strip_ = nullptr;
     setVisible(notice.has_value());
+    if (had_keyboard)
+        Q_EMIT keyboard_left();
     if (!notice)
         return;
     strip_ = new NoticeStrip(NoticeStrip::Tone::warn, notice->icon, notice->text, this);

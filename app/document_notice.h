@@ -20,6 +20,7 @@ public:
 
 Q_SIGNALS:
     void action_chosen(quillfern::app::Notice::Action action);
+    void keyboard_left(); ///< the button that had it is gone
 
 private:
     std::optional<Notice> shown_;

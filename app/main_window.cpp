@@ -140,6 +140,7 @@ void MainWindow::connect_document()
     connect(&document_->recovery(), &RecoveryKeeper::problem_changed, this, &MainWindow::show_condition);
     connect(&document_->disk(), &DocumentFile::path_changed, this, &MainWindow::show_condition);
     connect(notice_, &DocumentNotice::action_chosen, desk_, &DocumentDesk::perform);
+    connect(notice_, &DocumentNotice::keyboard_left, pages_, &PageStack::focus_page);
     connect(desk_, &DocumentDesk::access_changed, this, &MainWindow::show_condition);
 }
 

@@ -28,6 +28,17 @@ Notice about_change(PackageChange change, const QString& name)
         {{QStringLiteral("Reload"), Action::reload}, {QStringLiteral("Keep Both"), Action::keepBoth}, save_as}};
 }
 
+/// A document that was never saved has nothing to go back to.
+Notice about_recovered(bool has_file)
+{
+    const QString kept = QStringLiteral("These changes were kept when Quillfern closed unexpectedly. ");
+    if (!has_file)
+        return {QStringLiteral("info"), kept + QStringLiteral("They are in no file yet."),
+            {{QStringLiteral("Save…"), Action::save}}};
+    return {QStringLiteral("info"), kept + QStringLiteral("The file doesn’t have them yet."),
+        {{QStringLiteral("Save"), Action::save}, {QStringLiteral("Revert to Saved"), Action::revert}}};
+}
+
 } // namespace
 
 std::optional<Notice> notice_for(const OpenDocument& document)
@@ -46,10 +57,7 @@ std::optional<Notice> notice_for(const OpenDocument& document)
     if (!document.recovery().problem().isEmpty())
         return Notice{QStringLiteral("warning"), document.recovery().problem(), {save_as}};
     if (document.is_held_back())
-        return Notice{QStringLiteral("info"),
-            QStringLiteral(
-                "These changes were kept when Quillfern closed unexpectedly. The file doesn’t have them yet."),
-            {{QStringLiteral("Save"), Action::save}, {QStringLiteral("Revert to Saved"), Action::revert}}};
+        return about_recovered(disk.is_named());
     return std::nullopt;
 }
 

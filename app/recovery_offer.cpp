@@ -6,6 +6,8 @@
 #include "grants/recovery_store.h"
 #include "platform/clock.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 #include <QStringList>
 
@@ -21,7 +23,9 @@ QString line_of(const grants::FoundRecovery& found)
 {
     const QString title =
         found.info.title.empty() ? QStringLiteral("Untitled") : QString::fromStdString(found.info.title);
-    return QStringLiteral("%1 (%2)").arg(title, moment_words(found.info.savedAt, platform::now()));
+    const QString file = QFileInfo(QFile::decodeName(QByteArray::fromStdString(found.info.path))).fileName();
+    const QString name = file.isEmpty() ? title : QStringLiteral("%1, “%2”").arg(title, file);
+    return QStringLiteral("%1 (%2)").arg(name, moment_words(found.info.savedAt, platform::now()));
 }
 
 void recover(Application& application, Found& found, const QPointer<QWidget>& asking)

@@ -1,3 +1,4 @@
+#include "app/notices.h"
 #include "app/recovery_offer.h"
 #include "grants/recovery_store.h"
 #include "tests/gui/window_fixture.h"
@@ -72,6 +73,8 @@ TEST_F(RecoveryOfferTest, WhatTheFileHasGoneBeyondOpensBesideIt)
     const OpenDocument& recovered = program_.windows().back()->document();
     EXPECT_EQ(recovered.title(), "Recovered");
     EXPECT_FALSE(recovered.disk().is_named());
+    ASSERT_TRUE(notice_for(recovered));
+    EXPECT_EQ(notice_for(recovered)->buttons.size(), 1u) << "there is nothing saved to revert to";
     EXPECT_EQ(**recovered.document().package().attachments->at("new.txt").read(), "attached");
 }
 

@@ -135,13 +135,21 @@ void MainWindow::connect_document()
     });
     connect(&document, &Document::changed, this, &MainWindow::redraw);
     connect(&document, &Document::modified_changed, this, &MainWindow::show_condition);
-    connect(&document.undo_stack(), &QUndoStack::indexChanged, this, &MainWindow::update_commands);
+    connect(&document.undo_stack(), &QUndoStack::indexChanged, this, &MainWindow::take_step);
     connect(document_.get(), &OpenDocument::condition_changed, this, &MainWindow::show_condition);
     connect(&document_->recovery(), &RecoveryKeeper::problem_changed, this, &MainWindow::show_condition);
     connect(&document_->disk(), &DocumentFile::path_changed, this, &MainWindow::show_condition);
     connect(notice_, &DocumentNotice::action_chosen, desk_, &DocumentDesk::perform);
     connect(notice_, &DocumentNotice::keyboard_left, pages_, &PageStack::focus_page);
     connect(desk_, &DocumentDesk::access_changed, this, &MainWindow::show_condition);
+}
+
+/// What the toast says was done is undone.
+void MainWindow::take_step()
+{
+    update_commands();
+    if (document_->document().undo_stack().canRedo())
+        model_.edit([](WindowState& state) { state.toast.reset(); });
 }
 
 /// The title, the strip and the commands tell how the value and the disk stand to each other.

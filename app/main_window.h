@@ -63,6 +63,7 @@ private:
     void connect_tool_bar();
     void connect_pages();
     void redraw();
+    void take_step();
     void show_condition();
     void take_state(const WindowState& before, const WindowState& after);
     void show_state();

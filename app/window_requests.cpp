@@ -39,6 +39,8 @@ void WindowRequests::take_state(const WindowState& before, const WindowState& af
         show_alert(*after.alert);
     if (before.toast != after.toast && after.toast)
         show_toast(*after.toast);
+    else if (before.toast && !after.toast && toast_)
+        toast_->leave();
 }
 
 void WindowRequests::perform(const WindowRequest& request)

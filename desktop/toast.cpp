@@ -55,6 +55,13 @@ void Toast::show_message(const QString& text, const QString& icon_name)
     QAccessible::updateAccessibility(&spoken);
 }
 
+void Toast::leave()
+{
+    timer_.stop();
+    if (isVisible())
+        fade_to(0);
+}
+
 void Toast::place()
 {
     const QWidget* page = parentWidget();

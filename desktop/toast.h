@@ -20,8 +20,11 @@ public:
 
     void show_message(const QString& text, const QString& icon_name = QStringLiteral("carried"));
 
+    /// What it says is true no longer.
+    void leave();
+
 Q_SIGNALS:
-    void gone(); ///< by itself
+    void gone();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

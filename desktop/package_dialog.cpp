@@ -136,10 +136,16 @@ void PackageOpenDialog::accept()
     const QString package = package_around(path, suffix());
     if (!package.isEmpty())
         return activate_package(package);
-    if (QFileInfo(path).isDir())
+    const QFileInfo file(path);
+    if (file.isDir())
         return enter(path);
-    refuse(QStringLiteral("There is no file “%1”").arg(QFileInfo(path).fileName()),
-        QStringLiteral("Choose a file that is there."));
+    if (!file.exists())
+        return refuse(QStringLiteral("There is no file “%1”").arg(file.fileName()),
+            QStringLiteral("Choose a file that is there."));
+    if (file.suffix().compare(suffix(), Qt::CaseInsensitive) == 0)
+        return activate_package(path); // not a folder, as it should be: reading it says what is wrong
+    refuse(QStringLiteral("“%1” is not a .%2 file").arg(file.fileName(), suffix()),
+        QStringLiteral("Choose a file of that kind."));
 }
 
 void PackageOpenDialog::activate_package(const QString& path)

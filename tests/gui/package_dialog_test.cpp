@@ -103,6 +103,19 @@ TEST_F(PackageDialogTest, ReturnOnAPackageOpensItAndOnAFolderEntersIt)
     EXPECT_EQ(chosen[1][0].toString(), path("Pantry.quillfern"));
 }
 
+TEST_F(PackageDialogTest, ATypedNameThatIsNoPackageIsNotCalledMissing)
+{
+    QFile file(path("Mailed.quillfern"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    PackageOpenDialog* dialog = show_open();
+    QSignalSpy chosen(dialog, &PackageOpenDialog::package_chosen);
+    EXPECT_EQ(type("Nowhere.quillfern"), "There is no file “Nowhere.quillfern”");
+    EXPECT_EQ(type("writing.txt"), "“writing.txt” is not a .quillfern file");
+    EXPECT_EQ(chosen.count(), 0);
+    EXPECT_EQ(type("Mailed.quillfern"), "") << "reading it says what is wrong";
+    EXPECT_EQ(chosen.count(), 1);
+}
+
 TEST_F(PackageDialogTest, ADocumentIsSavedBesideOthersAndNeverInsideOne)
 {
     const auto panel = [this] {

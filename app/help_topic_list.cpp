@@ -86,6 +86,11 @@ int HelpTopicList::search(const QString& text)
     return found;
 }
 
+bool HelpTopicList::current_is_found() const
+{
+    return currentItem() && !currentItem()->isHidden();
+}
+
 void HelpTopicList::choose_first()
 {
     for (int row = 0; row < count(); ++row)

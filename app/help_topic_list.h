@@ -17,6 +17,9 @@ public:
     /// Lists the topics that match; returns how many there are.
     int search(const QString& text);
 
+    /// Whether the chosen topic is among those listed.
+    bool current_is_found() const;
+
     /// Chooses the first topic that is listed, if there is one.
     void choose_first();
 

@@ -113,8 +113,11 @@ bool HelpWindow::eventFilter(QObject* watched, QEvent* event)
 {
     const bool down = watched == search_ && event->type() == QEvent::KeyPress
         && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down;
-    if (down)
+    if (down) {
+        if (!list_->current_is_found())
+            list_->choose_first();
         list_->setFocus(Qt::TabFocusReason);
+    }
     return down || AppWindow::eventFilter(watched, event);
 }
 

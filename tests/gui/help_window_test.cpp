@@ -98,8 +98,10 @@ TEST_F(HelpWindowTest, TheKeyboardGoesFromTheSearchToTheTopicsToTheirLinksAndOut
     EXPECT_EQ(help.focusWidget(), search);
     QTest::keyClicks(search, "quorum recusals");
     EXPECT_EQ(listed(help), QStringList({"Motions and how votes are counted"}));
-    QTest::keyClick(search, Qt::Key_Return);
+    QTest::keyClick(search, Qt::Key_Down);
+    EXPECT_EQ(help.focusWidget(), &list_of(help));
     EXPECT_EQ(title_of(help), "Motions and how votes are counted");
+    search->setFocus();
     QTest::keyClicks(search, "x");
     EXPECT_TRUE(listed(help).isEmpty());
     EXPECT_EQ(title_of(help), "Motions and how votes are counted");

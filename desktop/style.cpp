@@ -47,9 +47,9 @@ void Style::drawPrimitive(
         return;
     case PE_IndicatorCheckBox:
         return style::draw_check_box(*option, *painter);
-    case PE_PanelMenu:
+    case PE_PanelMenu: // also the list of a combo box, which draws no frame of its own
         fill(*painter, option->rect, Role::card);
-        return;
+        [[fallthrough]];
     case PE_FrameMenu:
         painter->setPen(line_pen(Role::hairline2));
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
@@ -132,7 +132,7 @@ QSize Style::sizeFromContents(
     case CT_MenuBarItem:
         return style::menu_bar_item_size(as<QStyleOptionMenuItem>(option));
     case CT_MenuItem:
-        return style::menu_item_size(as<QStyleOptionMenuItem>(option));
+        return style::menu_item_size(as<QStyleOptionMenuItem>(option), widget);
     default:
         return QProxyStyle::sizeFromContents(type, option, contents, widget);
     }

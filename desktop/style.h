@@ -60,7 +60,7 @@ void draw_check_box(const QStyleOption& option, QPainter& painter);
 void draw_menu_bar_item(const QStyleOptionMenuItem& option, QPainter& painter);
 QSize menu_bar_item_size(const QStyleOptionMenuItem& option);
 void draw_menu_item(const QStyleOptionMenuItem& option, QPainter& painter);
-QSize menu_item_size(const QStyleOptionMenuItem& option);
+QSize menu_item_size(const QStyleOptionMenuItem& option, const QWidget* menu);
 void draw_scroll_bar(const QStyleOptionSlider& option, const QRect& thumb, QPainter& painter);
 
 const char* icon_name(QStyle::StandardPixmap standard_icon); ///< null: the toolkit's own picture

@@ -3,8 +3,11 @@
 #include "desktop/style.h"
 #include "desktop/type.h"
 
+#include <QAction>
 #include <QFontMetrics>
+#include <QMenu>
 #include <QPainter>
+#include <QScreen>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -13,6 +16,7 @@ namespace quillfern::desktop::style {
 namespace {
 
 constexpr double item_height = 28;
+constexpr double least_item_height = 21; ///< the line of text and a little air
 constexpr double separator_height = 9;
 constexpr double check_room = 30; ///< left of the title, for a check mark
 constexpr double shortcut_gap = 32;
@@ -58,6 +62,23 @@ void draw_arrow(const QStyleOptionMenuItem& option, QPainter& painter, Role role
         corner, icon_pixmap(QStringLiteral("chevron-right"), role, side, painter.device()->devicePixelRatioF()));
 }
 
+/// As designed, and lower where a long menu would otherwise not fit the screen: what has to be scrolled to is not
+/// found.
+int row_height(const QWidget* menu)
+{
+    if (!qobject_cast<const QMenu*>(menu))
+        return scaled(item_height);
+    int rows = 0;
+    int room = menu->screen()->availableGeometry().height() - 2 * scaled(6);
+    for (const QAction* action : menu->actions()) {
+        if (action->isSeparator() && action->isVisible())
+            room -= scaled(separator_height);
+        else if (action->isVisible())
+            ++rows;
+    }
+    return rows == 0 ? scaled(item_height) : std::clamp(room / rows, scaled(least_item_height), scaled(item_height));
+}
+
 } // namespace
 
 void draw_menu_bar_item(const QStyleOptionMenuItem& option, QPainter& painter)
@@ -98,13 +119,13 @@ void draw_menu_item(const QStyleOptionMenuItem& option, QPainter& painter)
         draw_arrow(option, painter, role);
 }
 
-QSize menu_item_size(const QStyleOptionMenuItem& option)
+QSize menu_item_size(const QStyleOptionMenuItem& option, const QWidget* menu)
 {
     if (option.menuItemType == QStyleOptionMenuItem::Separator)
         return {scaled(20), scaled(separator_height)};
     const MenuText text = split(option.text);
     const int shortcut = text.shortcut.isEmpty() ? 0 : scaled(shortcut_gap) + width_of(text.shortcut);
-    return {scaled(check_room) + width_of(text.title) + shortcut + scaled(16), scaled(item_height)};
+    return {scaled(check_room) + width_of(text.title) + shortcut + scaled(16), row_height(menu)};
 }
 
 void draw_scroll_bar(const QStyleOptionSlider& option, const QRect& thumb, QPainter& painter)

@@ -138,6 +138,9 @@ void Theme::apply()
     const QPalette palette = palette_of_tokens();
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+    QPalette menus = palette;
+    menus.setColor(QPalette::Window, color(Role::card)); // the lists of combo boxes take it over
+    QApplication::setPalette(menus, "QMenu");
     applying_ = false;
     if (chosen != before)
         Q_EMIT scheme_changed();

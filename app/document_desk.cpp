@@ -95,9 +95,15 @@ void DocumentDesk::save()
 void DocumentDesk::save_as()
 {
     const QString& path = document_.disk().path();
-    const QString proposed = path.isEmpty() ? proposed_file_name(document_.document().package()) : document_name(path);
-    auto* panel = new desktop::PackageSavePanel(
-        file_kind, proposed, path.isEmpty() ? QString() : QFileInfo(path).path(), &window_);
+    if (path.isEmpty())
+        ask_where(proposed_file_name(document_.document().package()), QString());
+    else
+        ask_where(document_name(path), QFileInfo(path).path());
+}
+
+void DocumentDesk::ask_where(const QString& proposed, const QString& folder)
+{
+    auto* panel = new desktop::PackageSavePanel(file_kind, proposed, folder, &window_);
     connect(panel, &desktop::PackageSavePanel::path_chosen, this, &DocumentDesk::save_to);
     connect(panel, &QDialog::rejected, this, [this] { decide_close(false); });
     panel->open();
@@ -121,7 +127,7 @@ void DocumentDesk::ask_to_replace(const QString& path)
         {QStringLiteral("warning"), desktop::IconTile::Tone::warn,
             {{QStringLiteral("Replace"), ButtonKind::destructive,
                 [this, path] { document_.save_as(path, Existing::replacePackage); }}}},
-        &window_, [this] { decide_close(false); });
+        &window_, [this, path] { ask_where(document_name(path), QFileInfo(path).path()); });
 }
 
 void DocumentDesk::duplicate()
@@ -156,8 +162,11 @@ void DocumentDesk::move_file(const QString& path)
     const auto moved = document_.disk().move_to(document_.document().value(), path);
     if (moved) {
         application_.recent_documents().rename(from, path);
-        return model_.tell("Moved to “" + QFileInfo(path).dir().dirName().toStdString() + "” as “"
-            + QFileInfo(path).fileName().toStdString() + "”.");
+        const QFileInfo now(path);
+        const bool renamed = now.path() == QFileInfo(from).path();
+        const QString done = renamed ? QStringLiteral("Renamed to “%1”.").arg(now.fileName())
+                                     : QStringLiteral("Moved to “%1”.").arg(now.dir().dirName());
+        return model_.tell(done.toStdString());
     }
     document_.look_at_disk();
     if (document_.disk_change() != PackageChange::same)

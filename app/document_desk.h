@@ -56,6 +56,7 @@ private:
     void ask_about_change(platform::PackageChange change);
     void revert_to_saved();
     void save_to(const QString& path);
+    void ask_where(const QString& proposed, const QString& folder);
     void ask_to_replace(const QString& path);
     void move_file(const QString& path);
     void ask_whether_to_keep();

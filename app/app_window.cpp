@@ -4,6 +4,7 @@
 #include "app/application.h"
 #include "app/close_window_action.h"
 #include "app/main_window.h"
+#include "app/open_document.h"
 #include "app/recent_menu.h"
 #include "desktop/menu_builder.h"
 
@@ -14,6 +15,8 @@
 #include <QMimeData>
 #include <QUndoStack>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace quillfern::app {
 namespace {
@@ -30,6 +33,18 @@ QStringList dragged_packages(const QMimeData& data)
             packages.append(info.filePath());
     }
     return packages;
+}
+
+/// A window's line in the Window menu: of two windows of one organization, the files tell them apart.
+QString entry_of(const MainWindow& window, const QList<MainWindow*>& all)
+{
+    const QString title = window.menu_title();
+    const auto same_title =
+        std::count_if(all.begin(), all.end(), [&title](const MainWindow* each) { return each->menu_title() == title; });
+    if (same_title < 2)
+        return title;
+    const QString path = window.document().disk().path();
+    return title + (path.isEmpty() ? QStringLiteral(" – not saved yet") : " – " + QFileInfo(path).fileName());
 }
 
 } // namespace
@@ -106,7 +121,8 @@ void AppWindow::list_windows()
     if (!application_.windows().isEmpty())
         window_entries_.append(menu->addSeparator());
     for (MainWindow* window : application_.windows()) {
-        QAction* entry = menu->addAction(window->menu_title().replace(QLatin1Char('&'), QLatin1String("&&")));
+        QAction* entry =
+            menu->addAction(entry_of(*window, application_.windows()).replace(QLatin1Char('&'), QLatin1String("&&")));
         entry->setCheckable(true);
         entry->setChecked(window == this);
         connect(entry, &QAction::triggered, window, &MainWindow::come_forward);

@@ -10,6 +10,8 @@ constexpr int wrong_command_line = 2;
 
 const QCommandLineOption help_option(
     {QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print the options."));
+const QCommandLineOption version_option(
+    {QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Print the version."));
 const QCommandLineOption sample_option(QStringLiteral("sample"), QStringLiteral("Open the sample organization."));
 const QCommandLineOption scheme_option(QStringLiteral("scheme"),
     QStringLiteral("Colors: light or dark instead of the desktop's."), QStringLiteral("light|dark"));
@@ -21,9 +23,7 @@ const QCommandLineOption exit_option(QStringLiteral("exit-after-paint"),
 void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(QStringLiteral("Grants and the board for small nonprofits."));
-    parser.addOption(help_option);
-    parser.addVersionOption();
-    parser.addOptions({sample_option, scheme_option, today_option, exit_option});
+    parser.addOptions({help_option, version_option, sample_option, scheme_option, today_option, exit_option});
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("Organizations to open (.quillfern)."), QStringLiteral("[files…]"));
 }
@@ -70,7 +70,7 @@ Options read_options(const QStringList& arguments, Strictness strictness)
     if (parser.isSet(help_option)) // before there is an application, the parser knows no name of the program
         options.text =
             parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("quillfern")).toStdString();
-    else if (parser.isSet(QStringLiteral("version")))
+    else if (parser.isSet(version_option))
         options.text = "quillfern " + QCoreApplication::applicationVersion().toStdString() + '\n';
     else if (strictness == Strictness::strict)
         check(options, parser, understood);

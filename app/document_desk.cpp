@@ -8,10 +8,12 @@
 #include "desktop/alert.h"
 #include "desktop/package_dialog.h"
 #include "desktop/save_panel.h"
+#include "grants/attachments.h"
 #include "grants/package_messages.h"
 
 #include <QDate>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSignalBlocker>
 #include <QWidget>
@@ -89,7 +91,18 @@ void DocumentDesk::save()
     document_.look_at_disk();
     if (document_.disk_change() != PackageChange::same)
         return ask_about_change(document_.disk_change());
-    document_.save(OpenDocument::Asked::byUser);
+    start([this] { document_.save(OpenDocument::Asked::byUser); });
+}
+
+void DocumentDesk::start(std::function<void()> save)
+{
+    last_save_ = std::move(save);
+    last_save_();
+}
+
+void DocumentDesk::save_to(const QString& path, Existing existing)
+{
+    start([this, path, existing] { document_.save_as(path, existing); });
 }
 
 void DocumentDesk::save_as()
@@ -104,16 +117,16 @@ void DocumentDesk::save_as()
 void DocumentDesk::ask_where(const QString& proposed, const QString& folder)
 {
     auto* panel = new desktop::PackageSavePanel(file_kind, proposed, folder, &window_);
-    connect(panel, &desktop::PackageSavePanel::path_chosen, this, &DocumentDesk::save_to);
+    connect(panel, &desktop::PackageSavePanel::path_chosen, this, &DocumentDesk::save_to_chosen);
     connect(panel, &QDialog::rejected, this, [this] { decide_close(false); });
     panel->open();
 }
 
-void DocumentDesk::save_to(const QString& path)
+void DocumentDesk::save_to_chosen(const QString& path)
 {
     if (QFileInfo::exists(path))
         return ask_to_replace(path);
-    document_.save_as(path, Existing::refuse);
+    save_to(path, Existing::refuse);
 }
 
 void DocumentDesk::ask_to_replace(const QString& path)
@@ -126,7 +139,7 @@ void DocumentDesk::ask_to_replace(const QString& path)
                         {}},
         {QStringLiteral("warning"), desktop::IconTile::Tone::warn,
             {{QStringLiteral("Replace"), ButtonKind::destructive,
-                [this, path] { document_.save_as(path, Existing::replacePackage); }}}},
+                [this, path] { save_to(path, Existing::replacePackage); }}}},
         &window_, [this, path] { ask_where(document_name(path), QFileInfo(path).path()); });
 }
 
@@ -216,7 +229,7 @@ void DocumentDesk::reload()
 
 void DocumentDesk::keep_both()
 {
-    document_.save_as(path_beside(document_.disk().path()), Existing::refuse);
+    save_to(path_beside(document_.disk().path()), Existing::refuse);
 }
 
 void DocumentDesk::try_lock()
@@ -259,14 +272,27 @@ void DocumentDesk::take_failure(const SaveFailure& failure, OpenDocument::Asked 
         decide_close(false);
         return ask_about_change(document_.disk_change());
     }
-    const DocumentWords words = failure_words(failure, name());
-    std::vector<AlertChoice> choices = {{QStringLiteral("Save As…"), ButtonKind::primary, [this] { save_as(); }}};
+    const bool lost = !failure.lock && problem == SaveProblem::attachmentLost;
+    DocumentWords words = failure_words(failure, name());
+    if (lost)
+        words.message = lost_files_words(document_.document().package());
+    std::vector<AlertChoice> choices = {lost
+            ? AlertChoice{QStringLiteral("Save Anyway"), ButtonKind::primary, [this] { save_without_lost_files(); }}
+            : AlertChoice{QStringLiteral("Save As…"), ButtonKind::primary, [this] { save_as(); }}};
     if (closing_)
         choices.insert(choices.begin(),
             {QStringLiteral("Close Without Saving"), ButtonKind::destructive, [this] { decide_close(true); }});
     desktop::choose({words.title, words.message, {}},
         {QStringLiteral("warning"), desktop::IconTile::Tone::warn, std::move(choices)}, &window_,
         [this] { decide_close(false); });
+}
+
+void DocumentDesk::save_without_lost_files()
+{
+    const auto present = grants::read_package(QFile::encodeName(document_.disk().path()).toStdString());
+    document_.document().edit(QStringLiteral("Leave Out Lost Files"),
+        grants::without_lost_files(document_.document().package(), present ? &present->package : nullptr));
+    last_save_();
 }
 
 void DocumentDesk::ask_about_change(PackageChange change)
@@ -300,7 +326,7 @@ bool DocumentDesk::try_to_save_before_closing()
     closes_ = false;
     {
         const QSignalBlocker nobody_waits(this); // the answer is returned
-        document_.save(OpenDocument::Asked::byItself);
+        start([this] { document_.save(OpenDocument::Asked::byItself); });
         document_.disk().finish();
     }
     if (!closing_ && !closes_)

@@ -54,8 +54,11 @@ private:
     void take_failure(const SaveFailure& failure, OpenDocument::Asked asked);
     bool explain(const platform::SaveOutcome& outcome); ///< whether it had something to say
     void ask_about_change(platform::PackageChange change);
+    void save_without_lost_files();
     void revert_to_saved();
-    void save_to(const QString& path);
+    void start(std::function<void()> save);
+    void save_to(const QString& path, platform::Existing existing);
+    void save_to_chosen(const QString& path);
     void ask_where(const QString& proposed, const QString& folder);
     void ask_to_replace(const QString& path);
     void move_file(const QString& path);
@@ -68,6 +71,7 @@ private:
     WindowModel& model_;
     Application& application_;
     QWidget& window_;
+    std::function<void()> last_save_; ///< as it was asked for last
     QStringList explained_; ///< what was said of the last save that found something
     bool closing_ = false; ///< a save that is running decides whether the window closes
     bool closes_ = false; ///< what was decided last

@@ -1,6 +1,7 @@
 #include "app/document_words.h"
 
 #include "app/save_words.h"
+#include "grants/attachments.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -19,6 +20,16 @@ QString qt(const std::string& text)
 QString file_name(const std::string& path)
 {
     return QFileInfo(QFile::decodeName(QByteArray::fromStdString(path))).fileName();
+}
+
+/// What the user called the attachment.
+QString original_name(const grants::GrantFile& file, const std::string& stored_name)
+{
+    for (const auto& grant : file.grants)
+        for (const grants::Attachment& attachment : grant->attachments)
+            if (attachment.storedName == stored_name)
+                return qt(attachment.originalName);
+    return qt(stored_name);
 }
 
 QString system_words(int error)
@@ -50,6 +61,17 @@ QString lock_words(const platform::LockError& error, const QString& name)
         .arg(name)
         .arg(error.holder.process)
         .arg(qt(error.holder.host));
+}
+
+QString lost_files_words(const grants::OrgPackage& package)
+{
+    const std::vector<std::string> lost = grants::lost_attachments(package);
+    const QString first = lost.empty() ? QStringLiteral("the logo")
+                                       : QStringLiteral("“%1”").arg(original_name(package.file, lost.front()));
+    const QString more = lost.size() > 1 ? QStringLiteral(" and %1 more").arg(lost.size() - 1) : QString();
+    return QStringLiteral("Another program has changed or removed %1%2. Saving anyway takes what is there now in its "
+                          "place; what is gone is left out.")
+        .arg(first, more);
 }
 
 DocumentWords change_words(platform::PackageChange change, const QString& name)

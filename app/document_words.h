@@ -19,6 +19,9 @@ DocumentWords failure_words(const SaveFailure& failure, const QString& name);
 /// Who has the document, and what that means here; one sentence or two.
 QString lock_words(const platform::LockError& error, const QString& name);
 
+/// Which attached files cannot be saved, because others have changed or removed them, and what saving anyway does.
+QString lost_files_words(const grants::OrgPackage& package);
+
 /// What others have done to the file, and that nothing of it or of this value is lost.
 DocumentWords change_words(platform::PackageChange change, const QString& name);
 

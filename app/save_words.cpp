@@ -24,6 +24,10 @@ std::string reason(const SaveError& error)
         return "A folder or something else that is no file has this name. Choose another name.";
     case SaveProblem::changedOnDisk:
         return "Another program has changed the file in the meantime.";
+    case SaveProblem::attachmentLost:
+        return "Another program has changed or removed an attached file.";
+    case SaveProblem::badContents:
+        return "The document holds something that can’t be written.";
     default:
         return error.systemError == 0 ? "The system did not say why."
                                       : std::generic_category().message(error.systemError) + '.';

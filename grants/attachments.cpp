@@ -99,6 +99,35 @@ Result<Shared<std::string>, platform::BlobError> read_attachment(
     return found->second.read();
 }
 
+std::vector<std::string> lost_attachments(const OrgPackage& package)
+{
+    std::vector<std::string> names;
+    for (const auto& [name, blob] : *package.attachments)
+        if (!blob.is_there())
+            names.push_back(name);
+    return names;
+}
+
+OrgPackage without_lost_files(const OrgPackage& package, const OrgPackage* present)
+{
+    OrgPackage changed = package;
+    if (package.logo && !package.logo->is_there())
+        changed.logo = present ? present->logo : std::nullopt;
+    const std::vector<std::string> lost = lost_attachments(package);
+    if (lost.empty())
+        return changed;
+    changed.attachments = changed.attachments.with([&](AttachmentBytes& files) {
+        for (const std::string& name : lost) {
+            files.erase(name);
+            if (!present)
+                continue;
+            if (const auto other = present->attachments->find(name); other != present->attachments->end())
+                files.emplace(name, other->second);
+        }
+    });
+    return changed;
+}
+
 OrgPackage with_logo(OrgPackage package, std::string png)
 {
     package.logo = platform::Blob(std::move(png));

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Files kept with grants, and the logo: edits from one package value to the next.
 namespace quillfern::grants {
@@ -29,6 +30,14 @@ OrgPackage remove_attachment(const OrgPackage& package, const Uuid& grant, const
 
 Result<Shared<std::string>, platform::BlobError> read_attachment(
     const OrgPackage& package, std::string_view stored_name);
+
+/// Stored names of the attachments whose bytes cannot be read any more, because another program has removed or changed
+/// their files.
+std::vector<std::string> lost_attachments(const OrgPackage& package);
+
+/// The package without the files that are lost, the logo's included: what `present` (null: nothing) has under their
+/// names takes their place, the rest is left out. Their records stay, as of any file that is missing.
+OrgPackage without_lost_files(const OrgPackage& package, const OrgPackage* present);
 
 OrgPackage with_logo(OrgPackage package, std::string png);
 OrgPackage without_logo(OrgPackage package);

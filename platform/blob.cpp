@@ -31,9 +31,10 @@ BlobError blob_error(int error)
     return {BlobProblem::unreadable, error};
 }
 
-Result<Shared<std::string>, BlobError> read_file(const StoredFile& file, SystemCalls& calls)
+/// The file at its start, when it is still the one that is meant.
+Result<Descriptor, BlobError> open_unchanged(const StoredFile& file, SystemCalls& calls)
 {
-    const Descriptor opened = open_stored(file, calls);
+    Descriptor opened = open_stored(file, calls);
     if (!opened)
         return fail(blob_error(errno));
     struct stat status = {};
@@ -41,8 +42,16 @@ Result<Shared<std::string>, BlobError> read_file(const StoredFile& file, SystemC
         return fail(blob_error(errno));
     if (!S_ISREG(status.st_mode) || !same_size_and_time(stamp_of(status), file.stamp))
         return fail(BlobError{BlobProblem::changed, 0});
+    return opened;
+}
+
+Result<Shared<std::string>, BlobError> read_file(const StoredFile& file, SystemCalls& calls)
+{
+    const auto opened = open_unchanged(file, calls);
+    if (!opened)
+        return fail(opened.error());
     std::string bytes;
-    if (const int error = read_bytes(calls, opened.get(), file.stamp.size, bytes))
+    if (const int error = read_bytes(calls, opened->get(), file.stamp.size, bytes))
         return fail(blob_error(error));
     if (static_cast<std::int64_t>(bytes.size()) != file.stamp.size)
         return fail(BlobError{BlobProblem::changed, 0});
@@ -88,6 +97,13 @@ Result<Shared<std::string>, BlobError> Blob::read(SystemCalls& calls) const
             return read;
         tried = std::move(now);
     }
+}
+
+bool Blob::is_there(SystemCalls& calls) const
+{
+    const BlobSource where = source();
+    const auto* file = std::get_if<StoredFile>(&where);
+    return !file || open_unchanged(*file, calls).ok();
 }
 
 Blob Blob::independent() const

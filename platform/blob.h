@@ -55,6 +55,9 @@ public:
     /// A file is read anew each time; nothing is kept.
     Result<Shared<std::string>, BlobError> read(SystemCalls& calls = system_calls()) const;
 
+    /// Whether reading would find the bytes: their file is there and as it was. Nothing is read.
+    bool is_there(SystemCalls& calls = system_calls()) const;
+
     /// A handle of its own to the same bytes, for another document that is saved to its own place.
     Blob independent() const;
 

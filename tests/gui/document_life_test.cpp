@@ -15,6 +15,7 @@
 #include <QSignalSpy>
 
 #include <filesystem>
+#include <fstream>
 
 namespace quillfern::app {
 namespace {
@@ -324,6 +325,37 @@ TEST_F(DocumentLifeTest, ADocumentWhoseFileVanishesIsKeptAndCanBeSavedElsewhere)
     wait_saved(window);
     EXPECT_EQ(name_on_disk(elsewhere), "Mine");
     EXPECT_FALSE(fs::exists(path_.toStdString()));
+}
+
+TEST_F(DocumentLifeTest, AttachmentsThatOthersTakeAwayOrChangeDoNotKeepTheRestFromBeingSaved)
+{
+    program_.open_sample();
+    MainWindow& window = *program_.windows().back();
+    give(window, "save");
+    path_ = folder_.filePath(QStringLiteral("Sample.quillfern"));
+    choose_path(path_);
+    wait_saved(window);
+    std::vector<fs::path> files;
+    for (const auto& file : fs::directory_iterator(path_.toStdString() + "/Attachments"))
+        files.push_back(file.path());
+    ASSERT_GE(files.size(), 2U);
+    fs::remove(files[0]);
+    std::ofstream(files[1]) << "changed";
+
+    rename_organization(window, "Mine");
+    give(window, "save");
+    answer("Keep Both");
+    wait_saved(window);
+    EXPECT_EQ(alert_title(), "Couldn’t save “Sample.quillfern”");
+    answer("Save Anyway");
+    wait_saved(window);
+    const auto kept = grants::read_package(window.document().disk().path().toStdString());
+    ASSERT_TRUE(kept);
+    EXPECT_NE(window.document().disk().path(), path_);
+    EXPECT_EQ(kept->package.file.org.name, "Mine");
+    EXPECT_EQ(kept->package.attachments->size(), files.size() - 1);
+    EXPECT_EQ(**kept->package.attachments->find(files[1].filename().string())->second.read(), "changed");
+    EXPECT_FALSE(window.isWindowModified());
 }
 
 TEST_F(DocumentLifeTest, RenamingAndMovingTakeTheOpenDocumentAlong)

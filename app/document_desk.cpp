@@ -204,7 +204,8 @@ void DocumentDesk::revert()
 bool DocumentDesk::can_revert() const
 {
     const DocumentFile& disk = document_.disk();
-    return disk.is_named() && (document_.document().is_modified() || disk.has_versions());
+    const Document& document = document_.document();
+    return disk.is_named() && ((document.is_modified() && document.saved()) || disk.has_versions());
 }
 
 void DocumentDesk::revert_to_saved()

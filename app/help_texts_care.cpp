@@ -14,10 +14,20 @@ HelpArticle sharing()
             HelpParagraph{
                 "Saving writes a complete new copy beside the old one and then exchanges the two in one step. What "
                 "stands on disk is always either the old document or the new one, even if the power fails in between."},
+            HelpParagraph{"A document that has a file saves itself: half a minute after the last change, when you turn "
+                          "to another program, and when its window closes. A new document asks for a name and a place "
+                          "the first time. What is not in a file yet is also noted aside every few seconds; if the "
+                          "program or the computer stops, the next start offers it to you."},
+            HelpParagraph{"Each save keeps the state before it on this computer. File › Revert to Saved lists them; "
+                          "the one you choose takes the place of what the window shows, and Edit › Undo brings that "
+                          "back."},
             HelpHeading{"With others"},
             HelpParagraph{"Two people shouldn’t edit the same file at the same time: there is no way to merge their "
                           "changes. In a shared or synced folder, let one person finish, and wait until the folder has "
                           "synced, before the next one opens the file."},
+            HelpParagraph{"If another program changes a file that is open, nothing is written over: Keep Both saves "
+                          "your version beside the other, and Reload shows the other one. A file that is open in "
+                          "another program can be looked at, but not changed."},
             HelpParagraph{"If a sync program leaves two copies behind, open both, decide which one is right, and put "
                           "the other one away."},
             HelpHeading{"Backups"},

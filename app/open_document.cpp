@@ -74,6 +74,7 @@ void OpenDocument::take_success(const SaveReport& report, Asked asked)
 {
     held_back_ = held_back_ && asked == Asked::byItself;
     disk_change_ = PackageChange::same;
+    vanished_.reset();
     trouble_.reset();
     document_.set_saved(report.written);
     Q_EMIT saved(*report.result, asked);
@@ -83,9 +84,9 @@ void OpenDocument::take_failure(const SaveFailure& failure, Asked asked)
 {
     const platform::SaveProblem problem = failure.error.problem;
     if (problem == platform::SaveProblem::changedOnDisk)
-        disk_change_ = PackageChange::changed;
+        set_disk_change(PackageChange::changed);
     else if (problem == platform::SaveProblem::gone)
-        disk_change_ = PackageChange::gone;
+        set_disk_change(PackageChange::gone);
     else if (asked == Asked::byItself)
         trouble_ = failure;
     Q_EMIT save_failed(failure, asked);
@@ -111,6 +112,7 @@ Result<Done, grants::PackageError> OpenDocument::reload()
     if (!opened)
         return fail(opened.error());
     notes_ = std::move(opened->notes);
+    vanished_.reset();
     document_.edit(QStringLiteral("Reload"), opened->package);
     document_.set_saved({std::move(opened->package)});
     set_disk_change(PackageChange::same);
@@ -126,6 +128,13 @@ void OpenDocument::set_disk_change(PackageChange change)
 {
     if (change == std::exchange(disk_change_, change))
         return;
+    // While the file is gone nothing but this window holds the value: closing asks, and a snapshot is kept.
+    if (change == PackageChange::gone && document_.saved()) {
+        vanished_ = document_.saved();
+        document_.set_unsaved();
+    } else if (change != PackageChange::gone && vanished_) {
+        document_.set_saved(*std::exchange(vanished_, std::nullopt));
+    }
     Q_EMIT condition_changed();
 }
 

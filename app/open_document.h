@@ -86,6 +86,7 @@ private:
     ReadNotes notes_;
     QTimer idle_; ///< since the last edit
     platform::PackageChange disk_change_ = platform::PackageChange::same;
+    std::optional<QuillfernDocument> vanished_; ///< what the file held that is gone; it may come back
     std::optional<SaveFailure> trouble_;
     bool held_back_ = false;
 };

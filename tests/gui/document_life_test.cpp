@@ -315,9 +315,21 @@ TEST_F(DocumentLifeTest, ADocumentWhoseFileVanishesIsKeptAndCanBeSavedElsewhere)
 {
     MainWindow& window = open_pantry();
     rename_organization(window, "Mine");
-    fs::remove_all(path_.toStdString());
-    window.document().save_by_itself();
+    const fs::path away = path_.toStdString() + ".away";
+    give(window, "save");
     wait_saved(window);
+    fs::rename(path_.toStdString(), away);
+    window.document().look_at_disk();
+    EXPECT_TRUE(window.isWindowModified()) << "nothing but the window holds it";
+    fs::rename(away, path_.toStdString());
+    window.document().look_at_disk();
+    EXPECT_FALSE(window.isWindowModified());
+
+    fs::remove_all(path_.toStdString());
+    window.document().look_at_disk();
+    window.close();
+    answer("Cancel");
+    ASSERT_EQ(program_.windows().size(), 1);
     EXPECT_EQ(notice_buttons(window), QStringList({"Save As…"}));
     press_notice(window, "Save As…");
     const QString elsewhere = folder_.filePath(QStringLiteral("Elsewhere.quillfern"));

@@ -322,6 +322,16 @@ void MainWindow::closeEvent(QCloseEvent* event)
     AppWindow::closeEvent(event);
 }
 
+/// The window may have been larger on another screen.
+void MainWindow::fit_screen()
+{
+    const QRect room = screen()->availableGeometry();
+    resize(size().boundedTo(room.size() - room_for_a_frame));
+    const QRect frame(pos(), size() + room_for_a_frame);
+    if (!room.contains(frame))
+        move(spot_inside(frame, room));
+}
+
 void MainWindow::restore_placement()
 {
     const WindowPlacement placement = last_placement();
@@ -330,6 +340,8 @@ void MainWindow::restore_placement()
         sidebar_width_ = placement.sidebarWidth;
     if (!restoreGeometry(placement.geometry))
         resize(QSize(scaled(1280), scaled(800)).boundedTo(screen()->availableSize() - room_for_a_frame));
+    else if (!isMaximized() && !isFullScreen())
+        fit_screen();
     if (application().windows().isEmpty() || isMaximized())
         return;
     const QWidget& before = *application().windows().back();

@@ -68,6 +68,7 @@ private:
     void take_state(const WindowState& before, const WindowState& after);
     void show_state();
     void arrange();
+    void fit_screen();
     void restore_placement();
 
     std::unique_ptr<OpenDocument> document_;

@@ -10,19 +10,19 @@ namespace {
 
 constexpr int step = 28; ///< the height of a title bar: the one before stays in sight
 
-/// The corner nearest to `wanted` from which `size` lies in `room`; what is too large begins at the room's own.
-QPoint inside(const QPoint& wanted, const QSize& size, const QRect& room)
-{
-    const int right = room.left() + room.width() - size.width();
-    const int bottom = room.top() + room.height() - size.height();
-    return {std::max(room.left(), std::min(wanted.x(), right)), std::max(room.top(), std::min(wanted.y(), bottom))};
-}
-
 } // namespace
+
+QPoint spot_inside(const QRect& wanted, const QRect& room)
+{
+    const int right = room.left() + room.width() - wanted.width();
+    const int bottom = room.top() + room.height() - wanted.height();
+    return {
+        std::max(room.left(), std::min(wanted.left(), right)), std::max(room.top(), std::min(wanted.top(), bottom))};
+}
 
 QPoint spot_after(const QRect& before, const QRect& room)
 {
-    const QPoint next = inside(before.topLeft() + QPoint(step, step), before.size(), room);
+    const QPoint next = spot_inside(before.translated(step, step), room);
     return next == before.topLeft() ? room.topLeft() : next;
 }
 
@@ -32,7 +32,7 @@ void place_over(QWidget& window, const QWidget* below)
         return;
     QRect spot(QPoint(), window.size());
     spot.moveCenter(below->frameGeometry().center());
-    window.move(inside(spot.topLeft(), spot.size(), below->screen()->availableGeometry()));
+    window.move(spot_inside(spot, below->screen()->availableGeometry()));
 }
 
 } // namespace quillfern::app

@@ -7,6 +7,10 @@ class QWidget;
 
 namespace quillfern::app {
 
+/// The corner nearest to the wanted one from which the frame lies in `room`; what is too large begins at the room's
+/// own.
+QPoint spot_inside(const QRect& wanted, const QRect& room);
+
 /// Where a window's frame goes that opens after another of its size: a step right and down of it. What would leave
 /// `room`, the part of the screen that windows can have, slides along its edge, and from the last corner it starts
 /// again at the first.

@@ -1,7 +1,9 @@
 #include "desktop/save_panel.h"
 
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace quillfern::desktop {
 namespace {
@@ -27,6 +29,12 @@ SavePanel::SavePanel(const Saved& saved, QWidget* parent)
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
     setWindowTitle(QStringLiteral("Save"));
+    // The toolkit calls the button Open once the name is a folder's, and a package is one.
+    connect(name_field(), &QLineEdit::textChanged, this, [this] {
+        auto* buttons = findChild<QDialogButtonBox*>();
+        if (is_package(named_path(), suffix()))
+            buttons->button(QDialogButtonBox::Save)->setText(QStringLiteral("Save"));
+    });
     setLabelText(FileName, QStringLiteral("Name:"));
     setLabelText(FileType, QStringLiteral("Shown:"));
     setNameFilter(QStringLiteral("%1 (*.%2)").arg(saved.kind, saved.suffix));

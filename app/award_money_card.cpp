@@ -6,6 +6,7 @@
 #include "desktop/share_bar.h"
 #include "desktop/text_label.h"
 
+#include <QFontMetrics>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -27,6 +28,7 @@ constexpr double swatch_side = 11;
 
 struct LegendEntry {
     QString label;
+    QString brief; ///< where the label has no room
     QString amount;
     SharePattern pattern = SharePattern::rest;
 };
@@ -34,10 +36,12 @@ struct LegendEntry {
 /// Nothing overdue is not worth a line.
 std::vector<LegendEntry> entries_of(const AwardMoney& money)
 {
-    std::vector<LegendEntry> entries = {{QStringLiteral("Received"), to_qt(money.receivedText), SharePattern::solid}};
+    std::vector<LegendEntry> entries = {
+        {QStringLiteral("Received"), {}, to_qt(money.receivedText), SharePattern::solid}};
     if (money.overdue.cents > 0)
-        entries.push_back({QStringLiteral("Overdue"), to_qt(money.overdueText), SharePattern::overdue});
-    entries.push_back({to_qt(money.expectedLabel), to_qt(money.expectedText), SharePattern::rest});
+        entries.push_back({QStringLiteral("Overdue"), {}, to_qt(money.overdueText), SharePattern::overdue});
+    entries.push_back(
+        {to_qt(money.expectedLabel), QStringLiteral("Still expected"), to_qt(money.expectedText), SharePattern::rest});
     return entries;
 }
 
@@ -84,8 +88,10 @@ private:
         painter.setPen(desktop::color(role));
         desktop::draw_figures(painter, line, Qt::AlignRight, entry.amount, strong);
         const int amount = static_cast<int>(std::ceil(desktop::figures_width(entry.amount, strong)));
-        desktop::draw_line(painter, line.adjusted(scaled(22), 0, -amount - scaled(8), 0), entry.label,
-            text_font(TextStyle::body), role);
+        const QRect room = line.adjusted(scaled(22), 0, -amount - scaled(8), 0);
+        const QFont& font = text_font(TextStyle::body);
+        const bool fits = entry.brief.isEmpty() || QFontMetrics(font).horizontalAdvance(entry.label) <= room.width();
+        desktop::draw_line(painter, room, fits ? entry.label : entry.brief, font, role);
     }
 
     std::vector<LegendEntry> entries_;
@@ -115,6 +121,7 @@ void AwardMoneyCard::show_money(const AwardMoney& money)
                          share(money.expected, SharePattern::rest)},
         spoken(entries));
     legend_->set_entries(entries);
+    legend_->setToolTip(to_qt(money.expectedLabel));
     setAccessibleName(to_qt(money.title));
     setAccessibleDescription(spoken(entries));
 }

@@ -80,6 +80,7 @@ Result<OpenedPackage, PackageError> read_package(
         return fail(package_error(decoded.error()));
     if (lock)
         platform::clean_leftovers(*folder->place, layout(), displaced, *lock);
+    folder->place->holdsMore = !decoded->notes.empty();
     return OpenedPackage{
         .package = {std::move(decoded->file), std::move(folder->contents.attachments), folder->contents.logo},
         .notes = std::move(decoded->notes),

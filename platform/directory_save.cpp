@@ -6,6 +6,7 @@
 #include "platform/settle.h"
 
 #include <fcntl.h>
+#include <utility>
 
 namespace quillfern::platform {
 namespace {
@@ -53,7 +54,7 @@ void free_backup_name(SystemCalls& calls, const PackagePlace& place)
 {
     const SplitPath split = split_path(place.tree->path());
     const std::string backup = join_path(split.folder, backup_name(split.name));
-    for (const auto& [tree, is_ours] : place.keptTrees) {
+    for (const auto& [tree, is_ours, holds_more] : place.keptTrees) {
         const std::string free = join_path(split.folder, fresh_sibling_name(split.name));
         if (tree->path() == backup && rename_to_free_name(calls, AT_FDCWD, backup, AT_FDCWD, free) == 0)
             tree->set_path(free);
@@ -119,7 +120,7 @@ Result<SaveOutcome, SaveError> save_package(
     place.fingerprint = std::move(saver.built.fingerprint);
     adopt(request.contents, request.layout, place.fingerprint.listing, place.tree, !place.trusted);
     if (!place.trusted) {
-        place.keptTrees.push_back({displaced.tree, true});
+        place.keptTrees.push_back({displaced.tree, true, std::exchange(place.holdsMore, false)});
         return fail(replaced->error());
     }
     SaveOutcome outcome;

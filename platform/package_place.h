@@ -13,6 +13,7 @@ namespace quillfern::platform {
 struct KeptTree {
     std::shared_ptr<TreeLocation> tree;
     bool isOurs = false; ///< a previous state of ours for sure; else somebody else may have written it
+    bool holdsMore = false; ///< than any later state: see PackagePlace
 };
 
 /// Where one open document stands on the disk, and how it looked there when it was read or last saved by us.
@@ -29,6 +30,10 @@ struct PackagePlace {
     /// False after a save whose last flush failed: no one knows which of the files reached the disk, so the next save
     /// writes every one afresh and links to none.
     bool trusted = true;
+
+    /// Whether what stands there holds more than what was read of it, because something in it could not be understood.
+    /// Once a save has displaced it, it is kept until somebody takes it.
+    bool holdsMore = false;
 
     /// The next good save disposes of them. Of those that nobody takes, the newest stays.
     std::vector<KeptTree> keptTrees = {};

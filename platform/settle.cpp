@@ -22,13 +22,13 @@ public:
     void thin_out();
 
 private:
-    void keep(const std::shared_ptr<TreeLocation>& tree, int error, bool is_ours = false)
+    void keep(const std::shared_ptr<TreeLocation>& tree, int error, bool is_ours = false, bool holds_more = false)
     {
         outcome_.displacedError = error;
-        place_.keptTrees.push_back({tree, is_ours});
+        place_.keptTrees.push_back({tree, is_ours, holds_more});
     }
 
-    void put_away(const std::shared_ptr<TreeLocation>& tree);
+    void put_away(const std::shared_ptr<TreeLocation>& tree, bool holds_more);
     void keep_conflict(const std::shared_ptr<TreeLocation>& tree);
     int carry_over_late(const Displaced& displaced, const PackageListing& now);
 
@@ -54,7 +54,7 @@ void Settling::settle(const Displaced& displaced)
         return keep_conflict(displaced.tree);
     if (const int error = carry_over_late(displaced, *now))
         return keep(displaced.tree, error);
-    put_away(displaced.tree);
+    put_away(displaced.tree, std::exchange(place_.holdsMore, false));
 }
 
 void Settling::keep_conflict(const std::shared_ptr<TreeLocation>& tree)
@@ -78,22 +78,22 @@ int Settling::carry_over_late(const Displaced& displaced, const PackageListing& 
     return move_entries(calls_, displaced.tree->path(), document_, late);
 }
 
-void Settling::put_away(const std::shared_ptr<TreeLocation>& tree)
+void Settling::put_away(const std::shared_ptr<TreeLocation>& tree, bool holds_more)
 {
     if (!request_.displaced) {
         if (const int error = discard_tree(calls_, tree, document_, request_.layout))
-            keep(tree, error, true);
+            keep(tree, error, true, holds_more);
         return;
     }
     if (const auto taken = request_.displaced->take(document_, tree); !taken)
-        return keep(tree, taken.error(), true);
+        return keep(tree, taken.error(), true, holds_more);
     outcome_.displaced = tree->path();
 }
 
 void Settling::settle_kept(const KeptTree& kept)
 {
     if (kept.isOurs)
-        put_away(kept.tree);
+        put_away(kept.tree, kept.holdsMore);
     else
         keep_conflict(kept.tree);
 }
@@ -106,7 +106,8 @@ void Settling::thin_out()
     const auto newest = std::find_if(kept.rbegin(), kept.rend(), is_ours);
     const auto tree = newest == kept.rend() ? nullptr : newest->tree;
     std::erase_if(kept, [&](const KeptTree& each) {
-        return each.isOurs && each.tree != tree && discard_tree(calls_, each.tree, document_, request_.layout) == 0;
+        return each.isOurs && !each.holdsMore && each.tree != tree
+            && discard_tree(calls_, each.tree, document_, request_.layout) == 0;
     });
 }
 

@@ -190,5 +190,17 @@ TEST_F(VersionsStoreTest, What_the_store_cannot_take_stays_beside_the_document)
     EXPECT_THAT(texts(path), ElementsAre("three", "two"));
 }
 
+TEST_F(VersionsStoreTest, What_holds_more_than_was_read_stays_until_the_store_takes_it)
+{
+    put(folder, "a file in the store's place");
+    read.place->holdsMore = true;
+    for (const char* text : {"two", "three", "four"})
+        save(text, store);
+    EXPECT_THAT(entries(scratch.path()), SizeIs(5)) << "the first state, and the newest";
+    fs::remove(folder);
+    save("five", store);
+    EXPECT_THAT(texts(path), ElementsAre("four", "three", "one"));
+}
+
 } // namespace
 } // namespace quillfern::platform

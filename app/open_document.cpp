@@ -67,6 +67,8 @@ void OpenDocument::take(const SaveReport& report, Asked asked)
         take_success(report, asked);
     else
         take_failure(report.result.error(), asked);
+    if (document_.is_modified())
+        idle_.start(); // edited during the save, or to be tried again: the disk may have room by then
     Q_EMIT condition_changed();
 }
 

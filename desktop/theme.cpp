@@ -141,6 +141,10 @@ void Theme::apply()
     QPalette menus = palette;
     menus.setColor(QPalette::Window, color(Role::card)); // the lists of combo boxes take it over
     QApplication::setPalette(menus, "QMenu");
+    QPalette texts = palette;
+    texts.setColor(QPalette::Highlight, color(Role::accentTint2)); // what is selected must stand out from the card
+    for (const char* field : {"QLineEdit", "QTextEdit"})
+        QApplication::setPalette(texts, field);
     applying_ = false;
     if (chosen != before)
         Q_EMIT scheme_changed();

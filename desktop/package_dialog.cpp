@@ -173,6 +173,7 @@ void FolderChooser::accept()
     const QString folder = named_path();
     if (!can_hold_files(folder))
         return;
+    remember_folder(FolderOf::documents, QDir(folder).filePath(suffix()));
     QDialog::accept();
     Q_EMIT folder_chosen(folder);
 }

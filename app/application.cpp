@@ -240,6 +240,13 @@ void Application::tell_settings_problem(WindowModel& model)
     model.tell(preferences_.problem().toStdString());
 }
 
+QWidget* Application::front() const
+{
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    return windows_.isEmpty() ? static_cast<QWidget*>(start_) : windows_.back();
+}
+
 void Application::refuse(const grants::PackageError& error, const QString& path, QWidget* asking)
 {
     const QByteArray name = QFileInfo(path).fileName().toUtf8();

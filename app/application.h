@@ -75,6 +75,9 @@ public:
     void put_in_safety();
 
     const QList<MainWindow*>& windows() const { return windows_; }
+
+    /// The window that a question belongs to: the active one or, before the desktop has made one active, the newest.
+    QWidget* front() const;
     DayWatch& day_watch() { return day_watch_; }
     HelpDesk& help_desk() { return help_desk_; }
     Storage& storage() { return storage_; }

@@ -74,7 +74,7 @@ int main(int argc, char** argv)
         QGuiApplication::setWindowIcon(desktop::application_icon());
         theme.follow_portal();
         session.listen_for_sleep();
-        app::offer_recovery(program, QApplication::activeWindow());
+        app::offer_recovery(program, program.front());
     });
     app::open_requested(program, app::request_of(options));
     const app::StartServer later_starts(

@@ -46,6 +46,12 @@ void tell_notes(MainWindow& window)
         &window);
 }
 
+void tell_leftovers(MainWindow& window)
+{
+    if (window.document().disk().leftovers() > 0)
+        window.model().tell("An interrupted save had left another state: see File › Revert to Saved.");
+}
+
 } // namespace
 
 Application::Application(Surroundings surroundings, QObject* parent)
@@ -215,6 +221,7 @@ MainWindow& Application::show_document(std::unique_ptr<OpenDocument> document)
         start_->close();
     Q_EMIT window_shown(window);
     tell_notes(*window);
+    tell_leftovers(*window);
     return *window;
 }
 

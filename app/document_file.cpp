@@ -41,7 +41,7 @@ void DocumentFile::settle(const QString& path, std::shared_ptr<platform::Package
     if (!lock_)
         try_lock();
     if (lock_)
-        grants::clear_leftovers(*place_, *lock_, &versions_);
+        leftovers_ = grants::clear_leftovers(*place_, *lock_, &versions_);
     Q_EMIT path_changed(path_);
 }
 

@@ -48,6 +48,9 @@ public:
     /// left beside it.
     void settle(const QString& path, std::shared_ptr<platform::PackagePlace> place);
 
+    /// How many states interrupted saves had left beside it, which are with its earlier versions now.
+    int leftovers() const { return leftovers_; }
+
     bool is_named() const { return place_ != nullptr; }
     const QString& path() const { return path_; } ///< empty when it lives nowhere yet
 
@@ -104,6 +107,7 @@ private:
     std::shared_ptr<platform::PackagePlace> place_;
     std::shared_ptr<platform::DocumentLock> lock_;
     std::optional<platform::LockError> lock_error_;
+    int leftovers_ = 0;
     Background<SaveReport> saving_{*this};
 };
 

@@ -121,10 +121,10 @@ void hand_over(const platform::PackagePlace& before, const platform::PackagePlac
     platform::hand_over(before, now, layout());
 }
 
-void clear_leftovers(
+int clear_leftovers(
     const platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced)
 {
-    platform::clean_leftovers(place, layout(), displaced, lock);
+    return platform::clean_leftovers(place, layout(), displaced, lock);
 }
 
 Result<std::shared_ptr<platform::PackagePlace>, platform::SaveError> move_package(const OrgPackage& package,

@@ -75,8 +75,9 @@ platform::PackageChange compare_with_disk(const platform::PackagePlace& place);
 /// saves keep up to date.
 void hand_over(const platform::PackagePlace& before, const platform::PackagePlace& now);
 
-/// For a document that was read without its lock: puts away what crashed saves have left beside it.
-void clear_leftovers(
+/// For a document that was read without its lock: puts away what crashed saves have left beside it. Returns how
+/// many states that were.
+int clear_leftovers(
     const platform::PackagePlace& place, const platform::DocumentLock& lock, platform::DisplacedTrees* displaced);
 
 /// Gives the document another name or folder. What is on the disk moves; `package` is written only when the new folder

@@ -267,6 +267,15 @@ TEST_F(DocumentLifeTest, AWindowThatCannotBeSavedEndsTheQuittingForGood)
     EXPECT_EQ(program_.windows().size(), 1) << "the other window was not asked to close any more";
 }
 
+TEST_F(DocumentLifeTest, WhatAnInterruptedSaveHasLeftIsToldAndCanBeGoneBackTo)
+{
+    write_package(QStringLiteral(".~Pantry.quillfern-0123abcd~"), file_with_days({}));
+    MainWindow& window = open_pantry();
+    ASSERT_TRUE(window.model().state().toast);
+    EXPECT_THAT(window.model().state().toast->text, testing::HasSubstr("Revert to Saved"));
+    EXPECT_TRUE(is_enabled(window, "revert"));
+}
+
 TEST_F(DocumentLifeTest, LeavingTheProgramForAnotherOneSaves)
 {
     MainWindow& window = open_pantry();

@@ -26,7 +26,7 @@ WelcomeSheet::WelcomeSheet(const WelcomeOffers& offers, QWidget* parent) : Sheet
     column->addSpacing(scaled(14));
     add_rows(offers);
     column->addSpacing(scaled(12));
-    add_foot();
+    add_foot(offers.emptyFile);
     setFixedWidth(scaled(640));
     connect(this, &QDialog::rejected, this, &WelcomeSheet::dismissed);
 }
@@ -66,9 +66,10 @@ void WelcomeSheet::showEvent(QShowEvent* event)
     setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
-void WelcomeSheet::add_foot()
+void WelcomeSheet::add_foot(bool empty_file)
 {
-    auto* empty = new QPushButton(QStringLiteral("Start with an Empty File"), this);
+    auto* empty =
+        new QPushButton(empty_file ? QStringLiteral("Start with an Empty File") : QStringLiteral("Not Now"), this);
     empty->setObjectName(QStringLiteral("welcomeEmpty"));
     empty->setAutoDefault(false);
     connect(empty, &QPushButton::clicked, this, &QDialog::reject);

@@ -12,6 +12,7 @@ namespace quillfern::app {
 struct WelcomeOffers {
     bool importCSV = false;
     bool importBoard = false;
+    bool emptyFile = true; ///< the window below it holds one to begin with; otherwise it shows what the user opened
 };
 
 /// What a new user may begin with, over the first window. However it is left, it is closed before it tells, so that
@@ -25,7 +26,7 @@ Q_SIGNALS:
     void sample_chosen();
     void import_csv_chosen();
     void import_board_chosen();
-    void dismissed(); ///< the user begins with the empty file
+    void dismissed(); ///< the user goes on with the window below
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -35,7 +36,7 @@ private:
 
     QWidget* add_row(const QString& icon, const QString& title, const QString& line, Chosen chosen);
     void add_rows(const WelcomeOffers& offers);
-    void add_foot();
+    void add_foot(bool empty_file);
 };
 
 } // namespace quillfern::app

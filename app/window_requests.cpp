@@ -82,7 +82,9 @@ void WindowRequests::open_sheet(const WindowSheet& sheet)
 
 QDialog* WindowRequests::open_welcome()
 {
-    auto* welcome = new WelcomeSheet({.importCSV = false, .importBoard = document_.disk().is_writable()}, &window_);
+    const bool empty = !document_.disk().is_named() && document_.document().file().grants.empty();
+    auto* welcome = new WelcomeSheet(
+        {.importCSV = false, .importBoard = document_.disk().is_writable(), .emptyFile = empty}, &window_);
     connect(welcome, &WelcomeSheet::finished, this, [this] { application_.end_welcome(model_); });
     connect(welcome, &WelcomeSheet::sample_chosen, &application_, &Application::open_sample);
     connect(welcome, &WelcomeSheet::import_board_chosen, this, [this] { model_.ask(request::Plain::importMarrowind); });

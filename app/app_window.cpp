@@ -56,6 +56,7 @@ AppWindow::AppWindow(Application& application) : application_(application)
     const auto run = [this](std::string_view id) { find_command(id)->act(*this); };
     menus_ = std::make_unique<desktop::WindowMenus>(*this, command_rows(), run);
     recent_ = new QMenu(QStringLiteral("Open Recent"), this);
+    recent_->setToolTipsVisible(true); // the path, for files of one name
     QMenu* file = menus_->menu(desktop::MenuId::file);
     file->insertMenu(menus_->action("openSample"), recent_);
     QMenu* edit = menus_->menu(desktop::MenuId::edit);

@@ -298,7 +298,7 @@ void DocumentDesk::save_without_lost_files()
 
 void DocumentDesk::ask_about_change(PackageChange change)
 {
-    const DocumentWords words = change_words(change, name());
+    const DocumentWords words = change_words(change, name(), document_.document().package());
     std::vector<AlertChoice> choices = {{QStringLiteral("Save As…"), ButtonKind::normal, [this] { save_as(); }}};
     if (change == PackageChange::changed) {
         choices.push_back({QStringLiteral("Reload"), ButtonKind::normal, [this] { reload(); }});

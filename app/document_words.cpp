@@ -74,12 +74,19 @@ QString lost_files_words(const grants::OrgPackage& package)
         .arg(first, more);
 }
 
-DocumentWords change_words(platform::PackageChange change, const QString& name)
+QString still_here(const grants::OrgPackage& package)
+{
+    return grants::lost_attachments(package).empty() ? QStringLiteral("Everything is still here")
+                                                     : QStringLiteral("All but its attached files is still here");
+}
+
+DocumentWords change_words(platform::PackageChange change, const QString& name, const grants::OrgPackage& package)
 {
     if (change == platform::PackageChange::gone)
         return {QStringLiteral("“%1” isn’t where it was").arg(name),
-            QStringLiteral("The file was moved or removed, or its disk is gone. Everything is still here: save it "
-                           "somewhere else.")};
+            QStringLiteral("The file was moved or removed, or its disk is gone. %1: save it somewhere else, or put the "
+                           "file back.")
+                .arg(still_here(package))};
     return {QStringLiteral("“%1” was changed by another program").arg(name),
         QStringLiteral("Keep Both saves this window’s version beside the other. Reload shows the other version; "
                        "Edit › Undo brings this one back.")};

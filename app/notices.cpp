@@ -19,11 +19,12 @@ Notice about_lock(const platform::LockError& error, const QString& name)
         {{QStringLiteral("Duplicate"), Action::duplicate}, {QStringLiteral("Try Again"), Action::tryLock}}};
 }
 
-Notice about_change(PackageChange change, const QString& name)
+Notice about_change(PackageChange change, const QString& name, const grants::OrgPackage& package)
 {
-    const QString title = change_words(change, name).title + QLatin1Char('.');
+    const QString title = change_words(change, name, package).title + QLatin1Char('.');
     if (change == PackageChange::gone)
-        return {QStringLiteral("file-missing"), title + QStringLiteral(" Everything is still here."), {save_as}};
+        return {QStringLiteral("file-missing"), title + QLatin1Char(' ') + still_here(package) + QLatin1Char('.'),
+            {save_as}};
     return {QStringLiteral("warning"), title,
         {{QStringLiteral("Reload"), Action::reload}, {QStringLiteral("Keep Both"), Action::keepBoth}, save_as}};
 }
@@ -48,7 +49,7 @@ std::optional<Notice> notice_for(const OpenDocument& document)
     if (!disk.is_writable() && disk.lock_error())
         return about_lock(*disk.lock_error(), name);
     if (document.disk_change() != PackageChange::same)
-        return about_change(document.disk_change(), name);
+        return about_change(document.disk_change(), name, document.document().package());
     if (document.trouble()) {
         const DocumentWords words = failure_words(*document.trouble(), name);
         return Notice{QStringLiteral("warning"), words.title + QStringLiteral(". ") + words.message,

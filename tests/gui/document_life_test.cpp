@@ -1,5 +1,6 @@
 #include "app/document_desk.h"
 #include "app/document_notice.h"
+#include "app/document_words.h"
 #include "app/open_document.h"
 #include "app/window_requests.h"
 #include "desktop/alert.h"
@@ -362,6 +363,10 @@ TEST_F(DocumentLifeTest, AttachmentsThatOthersTakeAwayOrChangeDoNotKeepTheRestFr
     ASSERT_GE(files.size(), 2U);
     fs::remove(files[0]);
     std::ofstream(files[1]) << "changed";
+
+    fs::rename(path_.toStdString(), path_.toStdString() + ".away");
+    EXPECT_EQ(still_here(window.document().document().package()), "All but its attached files is still here");
+    fs::rename(path_.toStdString() + ".away", path_.toStdString());
 
     rename_organization(window, "Mine");
     give(window, "save");

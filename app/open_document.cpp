@@ -67,8 +67,11 @@ void OpenDocument::take(const SaveReport& report, Asked asked)
         take_success(report, asked);
     else
         take_failure(report.result.error(), asked);
-    if (document_.is_modified())
-        idle_.start(); // edited during the save, or to be tried again: the disk may have room by then
+    // Edited during the save, or to be tried again: the disk may have room by then. Each try that was not flushed
+    // leaves a tree behind, so that is for the next edit.
+    const bool flushed = report.result || report.result.error().error.problem != platform::SaveProblem::notFlushed;
+    if (document_.is_modified() && flushed)
+        idle_.start();
     Q_EMIT condition_changed();
 }
 

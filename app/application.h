@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/app_model.h"
 #include "app/day_watch.h"
-#include "app/document_source.h"
-#include "app/help_desk.h"
-#include "app/preferences.h"
-#include "app/recent_documents.h"
-#include "app/settings_file.h"
-#include "app/storage.h"
+#include "app/document/document_source.h"
+#include "app/document/storage.h"
+#include "app/help/help_desk.h"
+#include "app/settings/preferences.h"
+#include "app/settings/recent_documents.h"
+#include "app/settings/settings_file.h"
+#include "app/state/app_model.h"
 #include "grants/recovery_store.h"
 
 #include <QList>

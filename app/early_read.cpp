@@ -1,6 +1,6 @@
 #include "app/early_read.h"
 
-#include "app/package_path.h"
+#include "app/document/package_path.h"
 
 #include <QFile>
 

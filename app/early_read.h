@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/document_source.h"
+#include "app/document/document_source.h"
 #include "app/options.h"
 
 #include <future>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/recent_documents.h"
+#include "app/settings/recent_documents.h"
 
 #include <QAbstractButton>
 

@@ -1,7 +1,7 @@
 #include "app/recovery_offer.h"
 
 #include "app/application.h"
-#include "app/revert_sheet.h"
+#include "app/window/revert_sheet.h"
 #include "desktop/alert.h"
 #include "grants/recovery_store.h"
 #include "platform/clock.h"

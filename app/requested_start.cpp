@@ -1,7 +1,7 @@
 #include "app/requested_start.h"
 
 #include "app/application.h"
-#include "app/main_window.h"
+#include "app/window/main_window.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/instance/start_request.h"
 #include "app/options.h"
-#include "app/start_request.h"
 
 namespace quillfern::app {
 

@@ -1,9 +1,9 @@
 #include "app/start_window.h"
 
 #include "app/application.h"
-#include "app/recent_documents.h"
 #include "app/recent_row.h"
-#include "app/welcome_greeting.h"
+#include "app/settings/recent_documents.h"
+#include "app/window/welcome_greeting.h"
 #include "desktop/choice_row.h"
 #include "desktop/menu_builder.h"
 #include "desktop/surface.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/app_window.h"
+#include "app/window/app_window.h"
 
 class QVBoxLayout;
 

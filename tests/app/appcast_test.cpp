@@ -1,5 +1,5 @@
-#include "app/appcast.h"
-#include "app/update_check.h"
+#include "app/help/appcast.h"
+#include "app/help/update_check.h"
 
 #include <gmock/gmock.h>
 

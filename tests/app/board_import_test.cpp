@@ -1,4 +1,4 @@
-#include "app/board_import.h"
+#include "app/window/board_import.h"
 
 #include "board/board_file.h"
 #include "board/board_json.h"

@@ -1,5 +1,5 @@
-#include "app/commands.h"
-#include "app/window_layout.h"
+#include "app/window/commands.h"
+#include "app/window/window_layout.h"
 
 #include <gmock/gmock.h>
 

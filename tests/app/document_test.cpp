@@ -1,4 +1,4 @@
-#include "app/document.h"
+#include "app/document/document.h"
 
 #include <gmock/gmock.h>
 

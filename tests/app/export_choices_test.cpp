@@ -1,4 +1,4 @@
-#include "app/export_choices.h"
+#include "app/export/export_choices.h"
 #include "grants/sample_organization.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
-#include "app/all_grants_presentation.h"
-#include "app/award_money.h"
-#include "app/fiscal_year_choice.h"
-#include "app/funders_presentation.h"
-#include "app/pipeline_presentation.h"
+#include "app/pages/all_grants_presentation.h"
+#include "app/pages/award_money.h"
+#include "app/pages/funders_presentation.h"
+#include "app/pages/pipeline_presentation.h"
+#include "app/window/fiscal_year_choice.h"
 #include "grants/sample_organization.h"
 
 #include <gmock/gmock.h>

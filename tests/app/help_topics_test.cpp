@@ -1,5 +1,5 @@
-#include "app/help_search.h"
-#include "app/help_topics.h"
+#include "app/help/help_search.h"
+#include "app/help/help_topics.h"
 #include "board/labels.h"
 #include "grants/import_fields.h"
 #include "grants/labels.h"

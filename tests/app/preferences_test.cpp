@@ -1,6 +1,6 @@
-#include "app/preferences.h"
-#include "app/recent_documents.h"
-#include "app/settings_file.h"
+#include "app/settings/preferences.h"
+#include "app/settings/recent_documents.h"
+#include "app/settings/settings_file.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "app/start_request.h"
+#include "app/instance/start_request.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "app/sidebar_presentation.h"
-#include "app/today_presentation.h"
+#include "app/pages/today_presentation.h"
+#include "app/window/sidebar_presentation.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "app/window_spot.h"
+#include "app/window/window_spot.h"
 
 #include <gtest/gtest.h>
 

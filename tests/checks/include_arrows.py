@@ -1,8 +1,9 @@
 #!/usr/bin/python3
 """Holds the sources to the table "Folders and arrows" of docs/ARCHITECTURE.md.
 
-Three things are looked at: an include of another folder must be an arrow of the table; a library's header may be
-included only by the folders that LIBRARIES names; and base/ includes the standard library and itself only.
+Four things are looked at: an include of another folder must be an arrow of the table; inside a folder whose rooms the
+table lists, an include of another room must be an arrow as well; a library's header may be included only by the folders
+that LIBRARIES names; and base/ includes the standard library and itself only.
 
     include_arrows.py ROOT
 
@@ -39,8 +40,8 @@ def table_rows(architecture):
     rows = []
     for line in architecture.splitlines():
         cells = [cell.strip() for cell in line.strip().strip("|").split("|")]
-        if line.startswith("|") and len(cells) >= 3 and re.match(r"`\w+/`", cells[0]):
-            rows.append((re.findall(r"`(\w+)/`", cells[0]), cells[-1]))
+        if line.startswith("|") and len(cells) >= 3 and re.match(r"`[\w/]+/`", cells[0]):
+            rows.append((re.findall(r"`([\w/]+)/`", cells[0]), cells[-1]))
     return rows
 
 
@@ -52,7 +53,7 @@ def allowed_includes(architecture):
     everything = {name for names, _ in rows for name in names}
     allowed = {}
     for names, text in rows:
-        named = set(re.findall(r"`(\w+)`", text))
+        named = set(re.findall(r"`([\w/]+)`", text))
         if text == "":
             targets = None
         elif text.startswith("everything but"):
@@ -66,8 +67,15 @@ def allowed_includes(architecture):
     return allowed
 
 
+def room_of(path, allowed):
+    """The folder's room that the file is in; the folder when it is in none."""
+    parts = path.split("/")
+    room = "/".join(parts[:2])
+    return room if len(parts) > 2 and room in allowed else parts[0]
+
+
 def complaints_about(path, text, allowed):
-    folder = path.split("/")[0]
+    folder, room = path.split("/")[0], room_of(path, allowed)
     for match in INCLUDE.finditer(text):
         line = text.count("\n", 0, match.start(2)) + 1
         quoted, target = match.group(1) == '"', match.group(2)
@@ -75,6 +83,9 @@ def complaints_about(path, text, allowed):
         limit = allowed[folder]
         if quoted and limit is not None and target_folder in allowed and target_folder not in limit:
             yield f"{path}:{line}: {folder}/ may not include {target_folder}/ ({target})"
+        target_room = room_of(target, allowed) if quoted and target_folder == folder and "/" in target else room
+        if room != folder and target_room != room and target_room not in allowed[room]:
+            yield f"{path}:{line}: {room}/ may not include {target_room}/ ({target})"
         if folder == "base" and not quoted and not STANDARD_HEADER.match(target):
             yield f"{path}:{line}: base/ includes nothing but the standard library ({target})"
         for name, (pattern, places) in LIBRARIES.items():
@@ -86,7 +97,7 @@ def check(root):
     """All complaints about the tree, and how many files were read."""
     allowed = allowed_includes((root / "docs/ARCHITECTURE.md").read_text())
     complaints, files = [], 0
-    for folder in allowed:
+    for folder in {name.split("/")[0] for name in allowed}:
         for file in sorted((root / folder).rglob("*")):
             if file.suffix in SOURCE_SUFFIXES and file.is_file():
                 files += 1
@@ -110,6 +121,9 @@ def self_test(architecture):
         ("boardui/a.cpp", '#include "app/window.h"'),
         ("boardui/a.cpp", '#include "grants/day.h"'),
         ("app/a.cpp", '#include "cli/output.h"'),
+        ("app/pages/a.cpp", '#include "cli/output.h"'),
+        ("app/pages/a.cpp", '#include "app/window/b.h"'),
+        ("app/state/a.h", '#include "app/application.h"'),
         ("cli/a.cpp", '#include "desktop/style.h"'),
         ("cli/a.cpp", "#include <QtCore/QString>"),
         ("helpers/a.cpp", '#include "grants/day.h"'),
@@ -119,6 +133,8 @@ def self_test(architecture):
         ("platform/a.cpp", '#include <unicode/ucol.h>\n#include <simdjson.h>\n#include "base/uuid.h"'),
         ("grants/grant_file_json.cpp", '#include "platform/json_reader.h"\n#include "board/records.h"\n#include "local.h"'),
         ("boardui/a.cpp", '#include <QWidget>\n#include "board/records.h"\n#include "base/uuid.h"'),
+        ("app/pages/a.cpp", '#include "app/state/b.h"\n#include "app/pages/c.h"\n#include "grants/day.h"'),
+        ("app/a.cpp", '#include "app/window/b.h"'),
         ("app/a.cpp", '#include "boardui/page.h"\n#include "grants/day.h"\n#include <QtCore/QString>'),
         ("tests/grants/a_test.cpp", '#include "grants/day.h"\n#include <gtest/gtest.h>'),
     ]

@@ -1,6 +1,6 @@
-#include "app/agenda_edit.h"
-#include "app/document.h"
-#include "app/today_page.h"
+#include "app/document/document.h"
+#include "app/pages/agenda_edit.h"
+#include "app/pages/today_page.h"
 #include "grants/sample_organization.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "app/board_open_dialog.h"
+#include "app/window/board_open_dialog.h"
 #include "board/board_json.h"
 #include "board/sample_board.h"
 #include "desktop/alert.h"

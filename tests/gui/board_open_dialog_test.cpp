@@ -1,5 +1,5 @@
-#include "app/board_import.h"
-#include "app/board_open_dialog.h"
+#include "app/window/board_import.h"
+#include "app/window/board_open_dialog.h"
 #include "desktop/alert.h"
 
 #include <QDialogButtonBox>

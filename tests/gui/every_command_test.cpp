@@ -1,5 +1,5 @@
-#include "app/commands.h"
-#include "app/open_document.h"
+#include "app/document/open_document.h"
+#include "app/window/commands.h"
 #include "desktop/menu_builder.h"
 #include "window_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "app/funder_list.h"
+#include "app/pages/funder_list.h"
 #include "desktop/stat_tiles.h"
 #include "desktop/table_totals.h"
 #include "desktop/table_view.h"

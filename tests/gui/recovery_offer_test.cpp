@@ -1,5 +1,5 @@
-#include "app/notices.h"
 #include "app/recovery_offer.h"
+#include "app/window/notices.h"
 #include "grants/recovery_store.h"
 #include "tests/gui/window_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "app/update_feed.h"
+#include "app/help/update_feed.h"
 #include "desktop/alert.h"
 #include "desktop/url_opener.h"
 #include "window_fixture.h"

@@ -1,5 +1,5 @@
 #include "app/first_paint.h"
-#include "app/welcome_sheet.h"
+#include "app/window/welcome_sheet.h"
 #include "window_fixture.h"
 
 #include <QAbstractButton>

@@ -1,8 +1,8 @@
-#include "app/recent_documents.h"
 #include "app/recent_row.h"
-#include "app/settings_file.h"
+#include "app/settings/recent_documents.h"
+#include "app/settings/settings_file.h"
 #include "app/start_window.h"
-#include "app/welcome_sheet.h"
+#include "app/window/welcome_sheet.h"
 #include "window_fixture.h"
 
 #include <QPointer>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/application.h"
-#include "app/main_window.h"
-#include "app/open_document.h"
+#include "app/document/open_document.h"
+#include "app/window/main_window.h"
 #include "grants/grant_file_json.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // start_probe PATIENCE FILE...: starts as the program does, without windows. Prints its role and how many microseconds
 // it took to learn it, then each request that it performs. It runs on, unless its request was handed over.
-#include "app/single_instance.h"
-#include "app/start_server.h"
+#include "app/instance/single_instance.h"
+#include "app/instance/start_server.h"
 
 #include <QCoreApplication>
 

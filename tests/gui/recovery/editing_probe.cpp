@@ -2,11 +2,11 @@
 // number of each edit as soon as it is made, with the time. editing_probe recover STATE: prints what the program would
 // give back. PACE is `real`; `fast`; or one of the sabotaged ones, `never` and `late`.
 #include "app/application.h"
+#include "app/document/open_document.h"
 #include "app/keep_safe.h"
-#include "app/main_window.h"
-#include "app/open_document.h"
 #include "app/recovery_offer.h"
 #include "app/session_watch.h"
+#include "app/window/main_window.h"
 #include "desktop/alert.h"
 #include "desktop/theme.h"
 #include "grants/org_package.h"

@@ -1,4 +1,4 @@
-#include "tests/platform/small_package.h"
+#include "tests/platform/directory_save_fixture.h"
 
 #include <gmock/gmock.h>
 #include <sys/xattr.h>
@@ -11,36 +11,6 @@ namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
-
-ino_t inode(const std::string& path)
-{
-    struct stat status = {};
-    return lstat(path.c_str(), &status) == 0 ? status.st_ino : 0;
-}
-
-/// A small package, opened and locked.
-class DirectorySave : public testing::Test {
-protected:
-    Result<SaveOutcome, SaveError> save(SystemCalls& calls = system_calls(), DisplacedTrees* displaced = nullptr)
-    {
-        return save_package(*read.place, request(read.contents, displaced), lock, calls);
-    }
-
-    /// Refused with this reason, and the folder looks as before.
-    void expect_refused(SaveProblem problem)
-    {
-        const auto before = entries(scratch.path());
-        const auto saved = save();
-        ASSERT_FALSE(saved.ok());
-        EXPECT_EQ(saved.error().problem, problem);
-        EXPECT_EQ(entries(scratch.path()), before);
-    }
-
-    ScratchFolder scratch;
-    std::string path = make_small_package(scratch);
-    PackageRead read = opened(path);
-    DocumentLock lock = locked(scratch, path);
-};
 
 TEST_F(DirectorySave, Writes_the_new_state_and_leaves_nothing_behind)
 {
@@ -115,25 +85,6 @@ TEST_F(DirectorySave, Takes_over_modes_and_attributes)
     EXPECT_EQ(getxattr(path.c_str(), "user.colour", colour, sizeof colour), attributes ? 5 : -1);
 }
 
-TEST_F(DirectorySave, Refuses_when_someone_else_has_written_the_document)
-{
-    const std::pair<const char*, std::function<void()>> changes[] = {
-        {"main file", [&] { put(path + "/Main.json", "six"); }},
-        {"attachment", [&] { put(path + "/Attachments/a", "others' bytes"); }},
-        {"attachment removed", [&] { fs::remove(path + "/Attachments/a"); }},
-        {"logo removed", [&] { fs::remove(path + "/Logo.png"); }},
-        {"logo replaced", [&] { put(path + "/Logo.png", "others'"); }},
-    };
-    for (const auto& [what, change] : changes) {
-        SCOPED_TRACE(what);
-        fs::remove_all(path);
-        make_small_package(scratch);
-        read = opened(path);
-        change();
-        expect_refused(SaveProblem::changedOnDisk);
-    }
-}
-
 TEST_F(DirectorySave, Refuses_what_it_cannot_or_must_not_replace)
 {
     fs::rename(path, scratch / "away");
@@ -186,84 +137,6 @@ TEST_F(DirectorySave, Refuses_read_only_folders)
         chmod(path.c_str(), 0700);
     }
     EXPECT_TRUE(save().ok());
-}
-
-/// The same bytes put back by a synchronised folder or a backup are no change.
-TEST_F(DirectorySave, Knows_a_copy_of_what_it_opened)
-{
-    fs::copy(path, scratch / "copy", fs::copy_options::recursive);
-    for (const char* name : {"Attachments/a", "Attachments/b", "Logo.png"})
-        fs::last_write_time(scratch / "copy" + '/' + name, fs::last_write_time(path + '/' + name));
-    fs::remove_all(path);
-    fs::rename(scratch / "copy", path);
-    EXPECT_TRUE(save().ok());
-}
-
-TEST_F(DirectorySave, Attachments_that_arrived_are_carried_over_until_the_document_takes_them_in)
-{
-    put(path + "/Attachments/new", "from another program");
-    const auto saved = save();
-    ASSERT_TRUE(saved.ok());
-    EXPECT_THAT(saved->arrived, ElementsAre("new"));
-    const auto again = save();
-    ASSERT_TRUE(again.ok());
-    EXPECT_THAT(again->arrived, IsEmpty());
-    EXPECT_EQ(get(path + "/Attachments/new"), "from another program");
-}
-
-/// Does something just before the exchange, as another program may.
-class BeforeExchange : public SystemCalls {
-public:
-    explicit BeforeExchange(std::function<void()> act) : act_(std::move(act)) { }
-    int rename_at(int from, const char* name, int to, const char* as, unsigned flags) override
-    {
-        if (flags == RENAME_EXCHANGE)
-            act_();
-        return SystemCalls::rename_at(from, name, to, as, flags);
-    }
-
-private:
-    std::function<void()> act_;
-};
-
-TEST_F(DirectorySave, What_others_write_during_the_save_is_kept_as_a_conflict)
-{
-    BeforeExchange calls([&] { put(path + "/Main.json", "someone else's"); });
-    read.contents.mainText = "two";
-    for (const char* name : {"Pantry (conflict, 2026-03-07).quillfern", "Pantry (conflict, 2026-03-07 2).quillfern"}) {
-        const auto saved = save(calls);
-        ASSERT_TRUE(saved.ok());
-        EXPECT_EQ(saved->conflict, fs::canonical(scratch.path()) / name);
-        EXPECT_EQ(get(saved->conflict + "/Main.json"), "someone else's");
-        EXPECT_EQ(get(path + "/Main.json"), "two");
-    }
-}
-
-TEST_F(DirectorySave, What_arrives_during_the_save_is_carried_over)
-{
-    BeforeExchange calls([&] {
-        put(path + "/Attachments/late", "late");
-        put(path + "/late.txt", "late");
-    });
-    const auto saved = save(calls);
-    ASSERT_TRUE(saved.ok());
-    EXPECT_THAT(saved->arrived, ElementsAre("late"));
-    EXPECT_EQ(get(path + "/Attachments/late"), "late");
-    EXPECT_EQ(get(path + "/late.txt"), "late");
-}
-
-TEST_F(DirectorySave, Entries_of_others_stay_in_the_package_when_nobody_keeps_displaced_trees)
-{
-    put(path + "/notes.txt", "own");
-    put(path + "/.git/config", "own");
-    fs::create_symlink("nowhere", path + "/Attachments/link");
-    const auto saved = save();
-    ASSERT_TRUE(saved.ok());
-    EXPECT_THAT(saved->unknownEntries, ElementsAre(".git", "Attachments/link", "notes.txt"));
-    EXPECT_EQ(get(path + "/notes.txt"), "own");
-    EXPECT_EQ(get(path + "/.git/config"), "own");
-    EXPECT_EQ(fs::read_symlink(path + "/Attachments/link"), "nowhere");
-    EXPECT_THAT(entries(scratch.path()), ElementsAre("Pantry.quillfern", "locks"));
 }
 
 TEST_F(DirectorySave, The_previous_state_goes_to_its_keeper_with_everything_in_it)
@@ -348,62 +221,6 @@ TEST_F(DirectorySave, Works_in_two_steps_where_folders_cannot_be_exchanged)
     ASSERT_TRUE(save(calls).ok());
     EXPECT_EQ(get(path + "/Main.json"), "two");
     EXPECT_FALSE(fs::exists(scratch / ".~Pantry.quillfern.bak~"));
-}
-
-class SaveAs : public DirectorySave {
-protected:
-    Result<NewPackage, SaveError> save_as(
-        const std::string& to, Existing existing = Existing::refuse, Ownership ownership = Ownership::copy)
-    {
-        return save_package_as(to, request(read.contents), existing, ownership, lock);
-    }
-};
-
-TEST_F(SaveAs, An_export_shares_no_file_with_the_document)
-{
-    ASSERT_TRUE(save_as(scratch / "Copy.quillfern").ok());
-    EXPECT_NE(inode(scratch / "Copy.quillfern/Attachments/a"), inode(path + "/Attachments/a"));
-    EXPECT_EQ(get(scratch / "Copy.quillfern/Attachments/a"), "bytes of a");
-    fs::remove_all(scratch / "Copy.quillfern");
-    EXPECT_TRUE(read.contents.attachments.at("a").read().ok());
-}
-
-TEST_F(SaveAs, A_document_that_moves_takes_its_attachments_along)
-{
-    auto moved = save_as(scratch / "New.quillfern", Existing::refuse, Ownership::document);
-    ASSERT_TRUE(moved.ok());
-    fs::remove_all(path);
-    EXPECT_EQ(**read.contents.attachments.at("a").read(), "bytes of a");
-    EXPECT_TRUE(save_package(*moved->place, request(read.contents), lock).ok());
-}
-
-TEST_F(SaveAs, Replaces_packages_when_told_to_and_nothing_else_ever)
-{
-    put(scratch / "plain", "text");
-    fs::create_directory(scratch / "empty");
-    put(scratch / "holiday/1.jpg", "picture");
-    fs::create_symlink("nowhere", scratch / "dangling");
-    put(scratch / "Other.quillfern/Main.json", "other");
-    fs::create_symlink(scratch / "Other.quillfern", scratch / "shortcut");
-    for (const char* name : {"plain", "empty", "holiday", "dangling", "Other.quillfern", "shortcut"})
-        EXPECT_EQ(save_as(scratch / name).error().problem, SaveProblem::exists) << name;
-    for (const char* name : {"plain", "empty", "holiday", "dangling"})
-        EXPECT_EQ(save_as(scratch / name, Existing::replacePackage).error().problem, SaveProblem::notAPackage) << name;
-    EXPECT_TRUE(save_as(scratch / "shortcut", Existing::replacePackage).ok());
-    EXPECT_EQ(get(scratch / "Other.quillfern/Main.json"), "one");
-    EXPECT_TRUE(fs::is_symlink(scratch / "shortcut"));
-    EXPECT_EQ(save_as(scratch / "no/New.quillfern").error().problem, SaveProblem::noFolder);
-    EXPECT_TRUE(save_as(path, Existing::replacePackage).ok()) << "even over the document itself";
-    EXPECT_EQ(get(path + "/Attachments/a"), "bytes of a");
-}
-
-TEST_F(SaveAs, Names_may_be_as_long_as_the_disk_allows)
-{
-    std::string name;
-    while (name.size() + 2 <= 255)
-        name += "é";
-    EXPECT_TRUE(save_as(scratch / name).ok());
-    EXPECT_TRUE(save_as(scratch / name, Existing::replacePackage).ok());
 }
 
 } // namespace

@@ -2,8 +2,11 @@
 
 #include "desktop/scrim.h"
 #include "desktop/tokens.h"
+#include "desktop/type.h"
 
+#include <QBoxLayout>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
@@ -42,6 +45,19 @@ void Sheet::place()
 void Sheet::paintEvent(QPaintEvent*)
 {
     QPainter(this).fillRect(rect(), color(Role::card));
+}
+
+QHBoxLayout* Sheet::make_foot(QPushButton* button)
+{
+    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
+    cancel->setAutoDefault(false);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(scaled(10));
+    row->addStretch();
+    row->addWidget(cancel);
+    row->addWidget(button);
+    return row;
 }
 
 } // namespace quillfern::desktop

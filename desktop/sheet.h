@@ -2,6 +2,9 @@
 
 #include <QDialog>
 
+class QHBoxLayout;
+class QPushButton;
+
 namespace quillfern::desktop {
 
 /// A dialog above its window only, on the colour of cards, in the window's upper part; the window is shaded meanwhile.
@@ -18,6 +21,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+    /// The row at the sheet's end: Cancel, and the button that does what the sheet is for.
+    QHBoxLayout* make_foot(QPushButton* button);
 
 private:
     void place();

@@ -44,14 +44,6 @@ RenameSheet::RenameSheet(const QString& name, QWidget* parent)
 
 void RenameSheet::lay_out()
 {
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
-    cancel->setAutoDefault(false);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(scaled(10));
-    buttons->addStretch();
-    buttons->addWidget(cancel);
-    buttons->addWidget(rename_);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(scaled(24), scaled(20), scaled(24), scaled(18));
     column->setSpacing(scaled(8));
@@ -59,7 +51,7 @@ void RenameSheet::lay_out()
     column->addWidget(name_);
     column->addWidget(problem_);
     column->addSpacing(scaled(8));
-    column->addLayout(buttons);
+    column->addLayout(make_foot(rename_));
     setFixedWidth(scaled(440));
 }
 

@@ -74,14 +74,6 @@ void RevertSheet::list_states(const OpenDocument&)
 
 void RevertSheet::lay_out()
 {
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
-    cancel->setAutoDefault(false);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(scaled(10));
-    buttons->addStretch();
-    buttons->addWidget(cancel);
-    buttons->addWidget(revert_);
     const QString words = list_->count() > 0
         ? QStringLiteral("The state you choose takes the place of what the window shows. Edit › Undo brings that back.")
         : QStringLiteral("Nothing has changed since the file was saved, and no earlier version is kept.");
@@ -94,7 +86,7 @@ void RevertSheet::lay_out()
         new TextLabel(QStringLiteral("Go back to a saved state"), TextStyle::sheetTitle, Role::text, this));
     column->addWidget(hint);
     column->addWidget(list_);
-    column->addLayout(buttons);
+    column->addLayout(make_foot(revert_));
     list_->setVisible(list_->count() > 0);
     list_->setMinimumHeight(scaled(row_height * 6));
     setFixedWidth(scaled(480));

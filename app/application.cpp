@@ -9,6 +9,7 @@
 #include "app/window/window_spot.h"
 #include "desktop/alert.h"
 #include "desktop/package_dialog.h"
+#include "desktop/qt_text.h"
 #include "grants/package_messages.h"
 
 #include <QApplication>
@@ -22,10 +23,7 @@
 namespace quillfern::app {
 namespace {
 
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
+using desktop::to_qt;
 
 /// Says what of the file could not be used as it stands; the file itself is as it was.
 void tell_notes(MainWindow& window)
@@ -36,7 +34,7 @@ void tell_notes(MainWindow& window)
         return;
     QStringList sentences;
     for (std::size_t i = 0; i < std::min(notes.size(), most_sentences); ++i)
-        sentences.append(qt(notes[i]));
+        sentences.append(to_qt(notes[i]));
     if (notes.size() > most_sentences)
         sentences.append(QStringLiteral("… and %1 more").arg(notes.size() - most_sentences));
     desktop::show_alert({QStringLiteral("Some of this file couldn’t be read."),
@@ -112,8 +110,8 @@ void Application::open_recovered(grants::FoundRecovery found, QWidget* asking)
     const auto* saved = present && present->document().saved() ? &present->document().saved()->package : nullptr;
     auto recovered = found.slot.read(saved);
     if (!recovered) {
-        desktop::show_alert({QStringLiteral("“%1” couldn’t be recovered").arg(qt(found.info.title)),
-                                QStringLiteral("What was kept of it stays where it is."), qt(recovered.error())},
+        desktop::show_alert({QStringLiteral("“%1” couldn’t be recovered").arg(to_qt(found.info.title)),
+                                QStringLiteral("What was kept of it stays where it is."), to_qt(recovered.error())},
             asking);
         return;
     }
@@ -258,7 +256,7 @@ void Application::refuse(const grants::PackageError& error, const QString& path,
 {
     const QByteArray name = QFileInfo(path).fileName().toUtf8();
     const grants::PackageMessage words = grants::package_message(error, name.toStdString());
-    QWidget* alert = desktop::show_alert({qt(words.title), qt(words.text), qt(error.text)}, asking);
+    QWidget* alert = desktop::show_alert({to_qt(words.title), to_qt(words.text), to_qt(error.text)}, asking);
     if (!asking)
         Q_EMIT window_shown(alert);
 }

@@ -6,6 +6,7 @@
 #include "app/window/welcome_greeting.h"
 #include "desktop/choice_row.h"
 #include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "desktop/surface.h"
 #include "desktop/text_label.h"
 

@@ -1,5 +1,7 @@
 #include "desktop/menu_builder.h"
 
+#include "desktop/qt_text.h"
+
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
@@ -29,11 +31,6 @@ QAction* make_action(QMainWindow& window, const CommandRow& row, const WindowMen
 }
 
 } // namespace
-
-QString to_qt(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 WindowMenus::WindowMenus(QMainWindow& window, std::span<const CommandRow> rows, const Run& run) : rows_(rows)
 {

@@ -41,6 +41,4 @@ private:
     std::vector<QMenu*> menus_; ///< by MenuId
 };
 
-QString to_qt(std::string_view text);
-
 } // namespace quillfern::desktop

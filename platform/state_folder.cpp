@@ -29,7 +29,7 @@ void flush_parent(const std::string& path)
 
 std::string state_folder()
 {
-    // The specification asks for relative paths to be ignored.
+    // The freedesktop.org rules for this variable ask for relative paths to be ignored.
     if (const char* folder = std::getenv("XDG_STATE_HOME"); folder && *folder == '/')
         return std::string(folder) + "/quillfern";
     const char* home = std::getenv("HOME");

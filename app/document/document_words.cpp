@@ -1,6 +1,7 @@
 #include "app/document/document_words.h"
 
 #include "app/document/save_words.h"
+#include "desktop/qt_text.h"
 #include "grants/attachments.h"
 
 #include <QCoreApplication>
@@ -12,10 +13,7 @@
 namespace quillfern::app {
 namespace {
 
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
+using desktop::to_qt;
 
 QString file_name(const std::string& path)
 {
@@ -28,13 +26,13 @@ QString original_name(const grants::GrantFile& file, const std::string& stored_n
     for (const auto& grant : file.grants)
         for (const grants::Attachment& attachment : grant->attachments)
             if (attachment.storedName == stored_name)
-                return qt(attachment.originalName);
-    return qt(stored_name);
+                return to_qt(attachment.originalName);
+    return to_qt(stored_name);
 }
 
 QString system_words(int error)
 {
-    return qt(std::generic_category().message(error));
+    return to_qt(std::generic_category().message(error));
 }
 
 } // namespace
@@ -44,14 +42,14 @@ DocumentWords failure_words(const SaveFailure& failure, const QString& name)
     if (failure.lock)
         return {QStringLiteral("Couldn’t save “%1”").arg(name), lock_words(*failure.lock, name)};
     const SaveWords words = save_words(failure.error, name.toStdString());
-    return {qt(words.title), qt(words.message)};
+    return {to_qt(words.title), to_qt(words.message)};
 }
 
 QString lock_words(const platform::LockError& error, const QString& name)
 {
     if (!error.held)
         return QStringLiteral("“%1” can’t be reserved for this window (%2: %3), so it can’t be changed here.")
-            .arg(name, qt(error.path), system_words(error.systemError));
+            .arg(name, to_qt(error.path), system_words(error.systemError));
     if (error.holder.process == QCoreApplication::applicationPid())
         return QStringLiteral("“%1” is open in another window of Quillfern.").arg(name);
     if (error.holder.process == 0)
@@ -60,7 +58,7 @@ QString lock_words(const platform::LockError& error, const QString& name)
                           "change it.")
         .arg(name)
         .arg(error.holder.process)
-        .arg(qt(error.holder.host));
+        .arg(to_qt(error.holder.host));
 }
 
 QString lost_files_words(const grants::OrgPackage& package)
@@ -102,12 +100,12 @@ QStringList outcome_sentences(const platform::SaveOutcome& outcome)
     if (!outcome.arrived.empty())
         sentences.append(
             QStringLiteral("Files that another program had put into the document were kept in it: %1.")
-                .arg(qt(outcome.arrived.front())
+                .arg(to_qt(outcome.arrived.front())
                     + (outcome.arrived.size() > 1 ? QStringLiteral(" and %1 more").arg(outcome.arrived.size() - 1)
                                                   : QString())));
     if (!outcome.unknownEntries.empty())
         sentences.append(QStringLiteral("What isn’t part of the document was moved to its earlier versions: %1.")
-                             .arg(qt(outcome.unknownEntries.front())
+                             .arg(to_qt(outcome.unknownEntries.front())
                                  + (outcome.unknownEntries.size() > 1
                                          ? QStringLiteral(" and %1 more").arg(outcome.unknownEntries.size() - 1)
                                          : QString())));

@@ -1,6 +1,6 @@
 #include "app/export/calendar_options.h"
 
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "desktop/surface.h"
 #include "desktop/switch_button.h"
 #include "desktop/text_label.h"

@@ -3,7 +3,7 @@
 #include "app/export/calendar_options.h"
 #include "app/export/export_kind_button.h"
 #include "desktop/icon_tile.h"
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "desktop/style.h"
 #include "desktop/surface.h"
 #include "desktop/text_label.h"

@@ -3,7 +3,7 @@
 #include "app/document/save_words.h"
 #include "app/export/export_sheet.h"
 #include "desktop/alert.h"
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "desktop/save_panel.h"
 #include "platform/clock.h"
 #include "platform/file_save.h"

@@ -1,8 +1,8 @@
 #include "app/help/help_article_view.h"
 
 #include "app/help/help_writer.h"
-#include "desktop/menu_builder.h"
 #include "desktop/painters.h"
+#include "desktop/qt_text.h"
 #include "desktop/type.h"
 
 #include <QAbstractTextDocumentLayout>

@@ -1,6 +1,6 @@
 #include "app/help/help_search.h"
 
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "app/help/help_topic_list.h"
 
 #include "app/help/help_search.h"
-#include "desktop/menu_builder.h"
 #include "desktop/painters.h"
+#include "desktop/qt_text.h"
 #include "desktop/type.h"
 
 #include <QPainter>

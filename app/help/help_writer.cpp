@@ -1,6 +1,6 @@
 #include "app/help/help_writer.h"
 
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "desktop/tokens.h"
 #include "desktop/type.h"
 

@@ -3,6 +3,7 @@
 #include "app/pages/agenda_model.h"
 #include "desktop/figures.h"
 #include "desktop/painters.h"
+#include "desktop/qt_text.h"
 #include "desktop/type.h"
 
 #include <QFontMetrics>
@@ -19,6 +20,7 @@ using desktop::Role;
 using desktop::scaled;
 using desktop::text_font;
 using desktop::TextStyle;
+using desktop::to_qt;
 using grants::Bucket;
 
 constexpr double heading_height = 34;
@@ -30,11 +32,6 @@ constexpr double date_width = 58;
 constexpr double tile_side = 34;
 constexpr double amount_width = 84;
 constexpr double relative_width = 92;
-
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 /// The room that the row's button takes, if it has one.
 int action_width(const QWidget* view, const QModelIndex& index)
@@ -98,17 +95,17 @@ Role row_fill(const QStyleOptionViewItem& option)
 void paint_date(QPainter& painter, const QRect& box, const AgendaRow& row)
 {
     const TwoLines lines(box, TextStyle::second, TextStyle::bodyStrong);
-    desktop::draw_line(painter, lines.upper.adjusted(0, 0, scaled(column_gap), 0), qt(row.weekday),
+    desktop::draw_line(painter, lines.upper.adjusted(0, 0, scaled(column_gap), 0), to_qt(row.weekday),
         text_font(TextStyle::second), Role::text2);
     painter.setPen(desktop::color(Role::text));
-    desktop::draw_figures(painter, lines.lower, Qt::AlignLeft, qt(row.date), text_font(TextStyle::bodyStrong));
+    desktop::draw_figures(painter, lines.lower, Qt::AlignLeft, to_qt(row.date), text_font(TextStyle::bodyStrong));
 }
 
 void paint_words(QPainter& painter, const QRect& box, const AgendaRow& row)
 {
     const TwoLines lines(box, TextStyle::bodyStrong, TextStyle::second);
-    desktop::draw_line(painter, lines.upper, qt(row.title), text_font(TextStyle::bodyStrong), Role::text);
-    desktop::draw_line(painter, lines.lower, qt(row.line), text_font(TextStyle::second), Role::text2);
+    desktop::draw_line(painter, lines.upper, to_qt(row.title), text_font(TextStyle::bodyStrong), Role::text);
+    desktop::draw_line(painter, lines.lower, to_qt(row.line), text_font(TextStyle::second), Role::text2);
 }
 
 void paint_relative(QPainter& painter, const QRect& box, const AgendaCell& cell)
@@ -118,7 +115,7 @@ void paint_relative(QPainter& painter, const QRect& box, const AgendaCell& cell)
         : cell.bucket == Bucket::thisWeek            ? Role::text
                                                      : Role::text2;
     painter.setPen(desktop::color(role));
-    desktop::draw_figures(painter, box, Qt::AlignRight, qt(cell.row.relative),
+    desktop::draw_figures(painter, box, Qt::AlignRight, to_qt(cell.row.relative),
         text_font(near ? TextStyle::secondStrong : TextStyle::second));
 }
 
@@ -130,10 +127,10 @@ void paint_cell(QPainter& painter, const QStyleOptionViewItem& option, const Age
     const RowBoxes boxes(option.rect, !cell.row.amount.empty(), action_width);
     paint_date(painter, boxes.date, cell.row);
     const Role tile = selected ? Role::card : overdue ? Role::dangerTint : Role::neutral;
-    desktop::paint_icon_tile(painter, boxes.tile, qt(cell.row.icon), tile, overdue ? Role::danger : Role::text2);
+    desktop::paint_icon_tile(painter, boxes.tile, to_qt(cell.row.icon), tile, overdue ? Role::danger : Role::text2);
     paint_words(painter, boxes.words, cell.row);
     painter.setPen(desktop::color(Role::text));
-    desktop::draw_figures(painter, boxes.amount, Qt::AlignRight, qt(cell.row.amount), text_font(TextStyle::body));
+    desktop::draw_figures(painter, boxes.amount, Qt::AlignRight, to_qt(cell.row.amount), text_font(TextStyle::body));
     paint_relative(painter, boxes.relative, cell);
     if (option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange))
         desktop::paint_focus(painter, option.rect.adjusted(2, 2, -2, -2), scaled(8));
@@ -142,7 +139,7 @@ void paint_cell(QPainter& painter, const QStyleOptionViewItem& option, const Age
 void paint_heading(QPainter& painter, const QRect& box, const AgendaHeading& heading)
 {
     const QFont& type = text_font(TextStyle::heading);
-    const QString title = qt(heading.title);
+    const QString title = to_qt(heading.title);
     const QRect line = box.adjusted(0, scaled(2), 0, 0);
     desktop::draw_line(painter, line, title, type, heading.bucket == Bucket::overdue ? Role::danger : Role::text);
     const int after_title = QFontMetrics(type).horizontalAdvance(title) + scaled(10);
@@ -192,10 +189,10 @@ bool AgendaDelegate::helpEvent(
     const AgendaRow& row = std::get_if<AgendaCell>(&model.line(index.row()))->row;
     const int room = RowBoxes(option.rect, !row.amount.empty(), action_width(view, index)).words.width();
     const auto elided = [room](const std::string& text, TextStyle style) {
-        return QFontMetrics(text_font(style)).horizontalAdvance(qt(text)) > room;
+        return QFontMetrics(text_font(style)).horizontalAdvance(to_qt(text)) > room;
     };
     if (elided(row.title, TextStyle::bodyStrong) || elided(row.line, TextStyle::second))
-        QToolTip::showText(event->globalPos(), qt(row.title + '\n' + row.line), view);
+        QToolTip::showText(event->globalPos(), to_qt(row.title + '\n' + row.line), view);
     else
         QToolTip::hideText();
     return true;

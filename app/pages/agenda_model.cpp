@@ -1,15 +1,14 @@
 #include "app/pages/agenda_model.h"
 
+#include "desktop/qt_text.h"
+
 #include <cstddef>
 #include <utility>
 
 namespace quillfern::app {
 namespace {
 
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
+using desktop::to_qt;
 
 std::vector<AgendaModel::Line> lines_of(const std::vector<AgendaSection>& sections)
 {
@@ -25,9 +24,9 @@ std::vector<AgendaModel::Line> lines_of(const std::vector<AgendaSection>& sectio
 QVariant heading_data(const AgendaHeading& heading, int role)
 {
     if (role == Qt::DisplayRole)
-        return qt(heading.title);
+        return to_qt(heading.title);
     if (role == Qt::AccessibleTextRole)
-        return qt(heading.title + ", " + std::to_string(heading.count));
+        return to_qt(heading.title + ", " + std::to_string(heading.count));
     return {};
 }
 
@@ -35,15 +34,15 @@ QVariant cell_data(const AgendaCell& cell, int role)
 {
     switch (role) {
     case Qt::DisplayRole:
-        return qt(cell.row.title);
+        return to_qt(cell.row.title);
     case Qt::AccessibleTextRole:
-        return qt(cell.row.spoken);
+        return to_qt(cell.row.spoken);
     case Qt::AccessibleDescriptionRole:
-        return cell.row.action.empty() ? QString() : QStringLiteral("Space: %1").arg(qt(cell.row.action));
+        return cell.row.action.empty() ? QString() : QStringLiteral("Space: %1").arg(to_qt(cell.row.action));
     case AgendaModel::id_role:
-        return qt(cell.row.id);
+        return to_qt(cell.row.id);
     case AgendaModel::action_role:
-        return qt(cell.row.action);
+        return to_qt(cell.row.action);
     default:
         return {};
     }

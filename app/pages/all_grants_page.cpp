@@ -2,8 +2,8 @@
 
 #include "app/pages/grant_cells.h"
 #include "desktop/empty_state.h"
-#include "desktop/menu_builder.h"
 #include "desktop/page_header.h"
+#include "desktop/qt_text.h"
 #include "desktop/table_card.h"
 #include "desktop/type.h"
 #include "grants/labels.h"

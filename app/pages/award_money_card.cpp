@@ -1,8 +1,8 @@
 #include "app/pages/award_money_card.h"
 
 #include "desktop/figures.h"
-#include "desktop/menu_builder.h"
 #include "desktop/painters.h"
+#include "desktop/qt_text.h"
 #include "desktop/share_bar.h"
 #include "desktop/text_label.h"
 

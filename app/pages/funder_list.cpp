@@ -1,7 +1,7 @@
 #include "app/pages/funder_list.h"
 
 #include "app/pages/funder_list_delegate.h"
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 
 #include <QAbstractListModel>
 

@@ -2,8 +2,8 @@
 
 #include "app/pages/funder_list.h"
 #include "desktop/figures.h"
-#include "desktop/menu_builder.h"
 #include "desktop/painters.h"
+#include "desktop/qt_text.h"
 #include "desktop/type.h"
 
 #include <QFontMetrics>

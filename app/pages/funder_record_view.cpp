@@ -2,7 +2,7 @@
 
 #include "app/pages/grant_cells.h"
 #include "app/pages/record_lines.h"
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "desktop/stat_tiles.h"
 #include "desktop/surface.h"
 #include "desktop/table_card.h"

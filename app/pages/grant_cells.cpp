@@ -1,7 +1,7 @@
 #include "app/pages/grant_cells.h"
 
 #include "app/pages/stage_chip.h"
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 
 namespace quillfern::app {
 

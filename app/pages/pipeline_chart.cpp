@@ -1,8 +1,8 @@
 #include "app/pages/pipeline_chart.h"
 
 #include "desktop/figures.h"
-#include "desktop/menu_builder.h"
 #include "desktop/painters.h"
+#include "desktop/qt_text.h"
 #include "desktop/type.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 #include "app/pages/record_lines.h"
 
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "desktop/text_label.h"
 
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #include "app/pages/stage_chip.h"
 
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "grants/labels.h"
 
 namespace quillfern::app {

@@ -6,6 +6,7 @@
 #include "app/pages/award_money_card.h"
 #include "desktop/empty_state.h"
 #include "desktop/page_header.h"
+#include "desktop/qt_text.h"
 #include "desktop/type.h"
 
 #include <QScrollArea>
@@ -18,11 +19,7 @@ namespace {
 
 using desktop::Role;
 using desktop::scaled;
-
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
+using desktop::to_qt;
 
 QWidget* make_empty_state(QWidget* parent)
 {
@@ -123,12 +120,12 @@ void TodayPage::set_actions_offered(bool offered)
 
 void TodayPage::show_facts(const TodayPresentation& presentation)
 {
-    std::vector<desktop::Fact> facts{{qt(presentation.date) + QStringLiteral(" · "), Role::text2}};
+    std::vector<desktop::Fact> facts{{to_qt(presentation.date) + QStringLiteral(" · "), Role::text2}};
     if (!presentation.overdue.empty()) {
-        facts.push_back({qt(presentation.overdue), Role::danger, true});
+        facts.push_back({to_qt(presentation.overdue), Role::danger, true});
         facts.push_back({QStringLiteral(", ")});
     }
-    facts.push_back({qt(presentation.upcoming)});
+    facts.push_back({to_qt(presentation.upcoming)});
     header_->set_facts(std::move(facts));
 }
 

@@ -3,8 +3,8 @@
 #include "app/settings/preferences.h"
 #include "app/settings/reminder_permission.h"
 #include "app/settings/settings_form.h"
-#include "desktop/menu_builder.h"
 #include "desktop/notice_strip.h"
+#include "desktop/qt_text.h"
 #include "desktop/switch_button.h"
 #include "platform/locale_text.h"
 

@@ -3,6 +3,7 @@
 #include "app/pages/count_words.h"
 #include "app/window/board_open_dialog.h"
 #include "board/board_file.h"
+#include "desktop/qt_text.h"
 #include "grants/board_import.h"
 #include "grants/package_messages.h"
 #include "platform/clock.h"
@@ -20,11 +21,7 @@ namespace quillfern::app {
 namespace {
 
 using desktop::AlertWords;
-
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
+using desktop::to_qt;
 
 using BoardResult = Result<board::BoardRead, board::ReadError>;
 
@@ -58,7 +55,7 @@ AlertWords unreadable_words(const board::ReadError& error)
     const auto* unreadable = std::get_if<board::Unreadable>(&error);
     return {QStringLiteral("That isn’t a board file this app can read"),
         QStringLiteral("Choose a .marrowind board file, or the Board.json inside one. Nothing was changed."),
-        unreadable ? qt(unreadable->detail) : QString()};
+        unreadable ? to_qt(unreadable->detail) : QString()};
 }
 
 BoardImportAnswer refused(const grants::BoardImportRefusal& refusal)
@@ -66,7 +63,7 @@ BoardImportAnswer refused(const grants::BoardImportRefusal& refusal)
     BoardImportAnswer answer;
     if (const auto* other = std::get_if<grants::OtherBoard>(&refusal))
         answer.alert = {QStringLiteral("This file already has a board"),
-            qt(other->name)
+            to_qt(other->name)
                 + QStringLiteral("’s board is in this file. Make a new file (File › New) and import the board there: "
                                  "each file is one organization."),
             {}};
@@ -78,7 +75,7 @@ BoardImportAnswer refused(const grants::BoardImportRefusal& refusal)
 QString counts_toast(const grants::BoardCounts& counts)
 {
     return QStringLiteral("Board imported: ")
-        + qt(count_words(counts.members, "member") + ", " + count_words(counts.meetings, "meeting") + ", "
+        + to_qt(count_words(counts.members, "member") + ", " + count_words(counts.meetings, "meeting") + ", "
             + count_words(counts.motions, "motion") + ", " + count_words(counts.actions, "action"));
 }
 
@@ -90,7 +87,7 @@ AlertWords notes_words(const ReadNotes& notes)
         return {};
     QStringList sentences;
     for (std::size_t i = 0; i < std::min(notes.size(), most_sentences); ++i)
-        sentences.append(qt(notes[i]));
+        sentences.append(to_qt(notes[i]));
     if (notes.size() > most_sentences)
         sentences.append(QStringLiteral("… and %1 more").arg(notes.size() - most_sentences));
     return {QStringLiteral("Some of this board couldn’t be read."),

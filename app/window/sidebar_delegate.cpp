@@ -3,6 +3,7 @@
 #include "app/window/sidebar_model.h"
 #include "desktop/icons.h"
 #include "desktop/painters.h"
+#include "desktop/qt_text.h"
 #include "desktop/type.h"
 
 #include <QPainter>
@@ -15,6 +16,7 @@ using desktop::Role;
 using desktop::scaled;
 using desktop::text_font;
 using desktop::TextStyle;
+using desktop::to_qt;
 
 constexpr double row_height = 36;
 constexpr double two_line_height = 52;
@@ -23,11 +25,6 @@ constexpr double row_gap = 1;
 constexpr double icon_side = 18;
 constexpr double side_padding = 10;
 constexpr double icon_gap = 11;
-
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 void paint_rule(QPainter& painter, const QRect& box)
 {
@@ -60,7 +57,7 @@ Role icon_role(const QStyleOptionViewItem& option)
 void paint_icon(QPainter& painter, const QPoint& corner, const SidebarRow& row, Role role)
 {
     painter.drawPixmap(
-        corner, desktop::icon_pixmap(qt(row.icon), role, scaled(icon_side), painter.device()->devicePixelRatioF()));
+        corner, desktop::icon_pixmap(to_qt(row.icon), role, scaled(icon_side), painter.device()->devicePixelRatioF()));
 }
 
 void paint_words(QPainter& painter, const QRect& box, const QStyleOptionViewItem& option, const SidebarRow& row)
@@ -70,12 +67,12 @@ void paint_words(QPainter& painter, const QRect& box, const QStyleOptionViewItem
     const Role role = !enabled ? Role::text3 : selected ? Role::onAccentTint : Role::text;
     const QFont& type = text_font(selected ? TextStyle::bodyStrong : TextStyle::body);
     if (row.second.empty())
-        return desktop::draw_line(painter, box, qt(row.label), type, role);
+        return desktop::draw_line(painter, box, to_qt(row.label), type, role);
     const int upper = scaled(19);
     const int lower = desktop::line_height(TextStyle::caption);
     const QRect above(box.left(), box.top() + (box.height() - upper - lower) / 2, box.width(), upper);
-    desktop::draw_line(painter, above, qt(row.label), type, role);
-    desktop::draw_line(painter, QRect(box.left(), above.bottom() + 1, box.width(), lower), qt(row.second),
+    desktop::draw_line(painter, above, to_qt(row.label), type, role);
+    desktop::draw_line(painter, QRect(box.left(), above.bottom() + 1, box.width(), lower), to_qt(row.second),
         text_font(TextStyle::caption), Role::text3);
 }
 

@@ -1,16 +1,10 @@
 #include "app/window/sidebar_model.h"
 
+#include "desktop/qt_text.h"
+
 #include <utility>
 
 namespace quillfern::app {
-namespace {
-
-QString qt(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 void SidebarModel::set_rows(const std::vector<SidebarRow>& rows)
 {
@@ -53,13 +47,13 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const
     const SidebarRow& row = *line(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return qt(row.label);
+        return desktop::to_qt(row.label);
     case Qt::AccessibleTextRole:
-        return qt(row.spoken);
+        return desktop::to_qt(row.spoken);
     case Qt::AccessibleDescriptionRole:
-        return qt(row.second.empty() ? row.hint : row.second);
+        return desktop::to_qt(row.second.empty() ? row.hint : row.second);
     case Qt::ToolTipRole:
-        return row.hint.empty() ? QVariant() : QVariant(qt(row.hint));
+        return row.hint.empty() ? QVariant() : QVariant(desktop::to_qt(row.hint));
     default:
         return {};
     }

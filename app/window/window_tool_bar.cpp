@@ -2,6 +2,7 @@
 
 #include "app/window/commands.h"
 #include "desktop/icons.h"
+#include "desktop/qt_text.h"
 #include "desktop/text_label.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #include "app/document/open_document.h"
 #include "app/window/commands.h"
-#include "desktop/menu_builder.h"
+#include "desktop/qt_text.h"
 #include "window_fixture.h"
 
 #include <QAction>
